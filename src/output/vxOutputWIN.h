@@ -1,0 +1,35 @@
+// The output targets of a drawing: each SaveAs... call adds a target, and
+// after layout every target gets a device that the layers draw into.
+//
+// The run uses it in this order:
+//   1. reset(): forget the targets of an earlier run;
+//   2. assign(call): one call per output function of the script;
+//   3. setUp(specs): the drawing's size and rendering flags;
+//   4. write(layerMng): each target's device is opened, drawn and closed.
+// Memory streams for the host are read afterwards with getNumOfStreams.
+#pragma once
+
+#include <ostream>
+
+#include "settings/vxErrorHolder.h"
+
+namespace Velarix {
+
+class vxAssign;
+class vxDrawingSpecs;
+class vxLayerManager;
+
+class vxOutputWIN : public vxErrorHolder {
+public:
+    vxOutputWIN();
+    ~vxOutputWIN() override;
+
+    virtual void reset();
+    virtual void assign(vxAssign& assign);
+    virtual void setUp(const vxDrawingSpecs* specs);
+    virtual void write(vxLayerManager* layerMng);
+    virtual long getNumOfStreams() const { return 0; }
+    virtual void dump(short depth, std::ostream& out) const;
+};
+
+}  // namespace Velarix

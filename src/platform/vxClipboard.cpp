@@ -1,0 +1,9 @@
+#include "platform/vxClipboard.h"
+
+namespace Velarix {
+
+bool vxClipboardHasPicture() {
+    return false;
+}
+
+}  // namespace Velarix

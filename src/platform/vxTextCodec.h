@@ -1,0 +1,18 @@
+// Conversion between UTF-8 bytes and the engine's wide strings, which hold
+// UTF-16 code units, one per wchar_t.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Velarix {
+
+// Decodes UTF-8 into UTF-16 code units. Malformed sequences become U+FFFD,
+// so any byte string gives some text. A leading byte-order mark is kept.
+std::wstring vxFromUtf8(std::string_view bytes);
+
+// Encodes UTF-16 code units as UTF-8; a surrogate pair becomes one code
+// point, a lone surrogate becomes U+FFFD.
+std::string vxToUtf8(const std::wstring& text);
+
+}  // namespace Velarix

@@ -1,0 +1,220 @@
+// String, date, chart value, font and file arguments.
+#include "Utilities/Sources/vxDateText.h"
+#include "Utilities/Sources/vxDouble.h"
+#include "Utilities/Sources/vxLong.h"
+#include "Utilities/Sources/vxStringOLD.h"
+#include "Utilities/Sources/vxTokenizer.h"
+#include "platform/vxClipboard.h"
+#include "platform/vxFileSystem.h"
+#include "platform/vxResources.h"
+#include "script/vxArgument.h"
+#include "script/vxArgumentConverter.h"
+#include "script/vxAssign.h"
+#include "script/vxConstants.h"
+#include "script/vxFunctionIds.h"
+#include "script/vxScriptChars.h"
+#include "settings/vxErrorCodes.h"
+#include "settings/vxFontSettings.h"
+#include "settings/vxSystemSettings.h"
+#include "settings/vxUserSettings.h"
+
+namespace Velarix {
+
+using namespace vxErrScript;
+
+namespace {
+
+// Source kinds of picture and data arguments.
+constexpr short kSourceClipboard = 1;
+constexpr short kSourceResource = 2;
+constexpr short kSourceFile = 3;
+
+bool isQuoted(const std::wstring& text) {
+    return text.size() >= 2 && vxScriptChars::isQuote(text.front()) &&
+           vxScriptChars::isQuote(text.back());
+}
+
+std::wstring unquoted(const std::wstring& text) {
+    return isQuoted(text) ? text.substr(1, text.size() - 2) : text;
+}
+
+bool hasQuote(const std::wstring& text) {
+    for (wchar_t c : text) {
+        if (vxScriptChars::isQuote(c)) return true;
+    }
+    return false;
+}
+
+// "24:00", "24:00:00", "24:0.000": the end of a day, stored as 1.0.
+bool isEndOfDay(const std::wstring& text) {
+    if (text.compare(0, 4, L"24:0") != 0) return false;
+    int separators = 0;
+    for (size_t i = 4; i < text.size(); ++i) {
+        if (text[i] == L':' || text[i] == L'.') {
+            if (++separators > 1) return false;
+        } else if (text[i] != L'0') {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+std::wstring vxArgumentConverter::basePath() const {
+    return settings ? settings->getAppPath() : std::wstring();
+}
+
+vxConversion vxArgumentConverter::convertString(const std::wstring& text) {
+    if (text.empty()) {
+        if (descriptor->isArgumentRequired()) return {kNotEnoughData, -1};
+        assign.addVoid();
+        return {};
+    }
+    if (text.size() >= 2 && text.front() == L'"' && text.back() == L'"') {
+        const std::wstring value = text.substr(1, text.size() - 2);
+        const double length = static_cast<double>(value.size());
+        if (length < descriptor->getMinValue()) return {kStringTooShort, -1};
+        if (length > descriptor->getMaxValue()) return {kStringTooLong, -1};
+        assign.addString(value);
+        return {};
+    }
+    if (!vxScriptChars::isLetter(text[0])) return {kString, -1};
+    if (descriptor->getConstantType() == 0) return {kValue, -1};
+    std::wstring value;
+    short code = lookUpConstant(text, value);
+    if (code != 0) return {code, -1};
+    assign.addString(value);
+    return {};
+}
+
+// A date-time argument: a number, the end of a day, or a date text.
+vxConversion vxArgumentConverter::convertDate(const std::wstring& text) {
+    if (text.empty()) {
+        if (descriptor->isArgumentRequired()) return {kNotEnoughData, -1};
+        assign.addVoid();
+        return {};
+    }
+    std::wstring value = unquoted(text);
+    vxStringOLD::replaceFirstComma(value);
+    if (vxDouble::testNumber(value) == 0) {
+        assign.addDouble(vxDouble::toDouble(value));
+        return {};
+    }
+    for (wchar_t& c : value) {
+        if (c == L'\'' || c == 0x2019) c = L':';
+    }
+    if (!isEndOfDay(value)) return {kSyntax, -1};
+    assign.addDouble(1.0);
+    assign.setNote(index, text);
+    return {};
+}
+
+// Chart values: numbers or dates (decided by the first value that isn't a
+// null), stored as one text for the data input to read.
+vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
+    if (text.empty()) {
+        assign.addString(L"NULL");
+        return {};
+    }
+    enum class Kind { kUnknown, kNumber, kDate } kind = Kind::kUnknown;
+    const bool protectBlanks = hasQuote(text);
+    vxTokenizer tokens(text, L" \t\n\r", true);
+    std::wstring token;
+    std::wstring joined;
+    long element = -1;
+    while (tokens.next(token)) {
+        ++element;
+        std::wstring value = unquoted(token);
+        if (value.empty()) continue;
+        if (protectBlanks) {
+            for (wchar_t& c : value) {
+                if (c == L' ') c = L'&';
+            }
+        }
+        if (vxStringOLD::toLower(value) == L"null") {
+            value = L"NULL";
+        } else {
+            std::wstring number = value;
+            vxStringOLD::replaceFirstComma(number);
+            const bool isNumber = vxDouble::testNumber(number) == 0;
+            if (kind == Kind::kUnknown) {
+                if (isNumber) {
+                    kind = Kind::kNumber;
+                } else if (vxIsDateText(value)) {
+                    kind = Kind::kDate;
+                } else {
+                    return {kSyntax, element};
+                }
+            } else if (kind == Kind::kNumber && !isNumber) {
+                return {kValue, element};
+            } else if (kind == Kind::kDate && !vxIsDateText(value)) {
+                return {kSyntax, element};
+            }
+        }
+        joined += L' ';
+        joined += value;
+    }
+    assign.addString(joined.empty() ? joined : joined.substr(1));
+    return {};
+}
+
+vxConversion vxArgumentConverter::convertFont(const std::wstring& text) {
+    if (text.empty()) {
+        if (descriptor->isArgumentRequired()) return {kNotEnoughData, -1};
+        assign.addVoid();
+        return {};
+    }
+    const std::wstring name = unquoted(text);
+    const vxSystemSettings* system = settings ? settings->getSystemSettings() : nullptr;
+    const vxFontSettings* fonts = settings ? settings->getFontSettings() : nullptr;
+    if (system && !system->fontExists(name) && fonts && fonts->getMissingFontFlag() == 1) {
+        return {kFontName, -1};
+    }
+    assign.addString(name);
+    return {};
+}
+
+// A picture or data source; the argument before it names the kind.
+vxConversion vxArgumentConverter::convertSource(const std::wstring& text) {
+    const short kind = (fnId == kChartDataRead) ? kSourceFile : assign.getShort(index - 1, 1);
+    const std::wstring name = unquoted(text);
+    if (static_cast<double>(name.size()) > descriptor->getMaxValue()) return {kStringTooLong, -1};
+    switch (kind) {
+        case kSourceClipboard:
+            if (!vxClipboardHasPicture()) return {kClipboard, -1};
+            assign.addString(L"");
+            return {};
+        case kSourceResource: {
+            if (name.empty()) return {kStringTooShort, -1};
+            long id = 0;
+            if (vxLong::testInteger(name) != 0 || !vxLong::toLong(name, id)) return {kSyntax, -1};
+            if (!vxResourceExists(id)) return {kResource, -1};
+            assign.addString(name);
+            return {};
+        }
+        case kSourceFile: {
+            if (name.empty()) return {kStringTooShort, -1};
+            if (vxHasForbiddenFileNameChars(name)) return {vxErrFile::kName, -1};
+            const std::wstring path = vxJoinPath(basePath(), name);
+            if (!vxFileExists(path)) return {vxErrFile::kNotFound, -1};
+            assign.addString(path);
+            return {};
+        }
+        default:
+            return {kString, -1};
+    }
+}
+
+vxConversion vxArgumentConverter::convertOutputPath(const std::wstring& text) {
+    const std::wstring name = unquoted(text);
+    if (name.empty()) return {kStringTooShort, -1};
+    if (static_cast<double>(name.size()) > descriptor->getMaxValue()) return {kStringTooLong, -1};
+    if (vxHasForbiddenFileNameChars(name)) return {vxErrFile::kName, -1};
+    const std::wstring path = vxJoinPath(basePath(), name);
+    if (!vxFolderExists(path)) return {vxErrFile::kDirectoryNotFound, -1};
+    assign.addString(path);
+    return {};
+}
+
+}  // namespace Velarix

@@ -1,0 +1,84 @@
+// Hands a converted call to its receiver: the output, the format settings or
+// the current view, chosen by the function's group.
+#include <cmath>
+
+#include "drawing/vxDrawingSpecs.h"
+#include "drawing/vxView.h"
+#include "output/vxOutputWIN.h"
+#include "script/vxFunctionIds.h"
+#include "script/vxFunctionTable.h"
+#include "script/vxScript.h"
+#include "settings/vxFormatSettings.h"
+#include "settings/vxRenderingSettings.h"
+#include "settings/vxUserSettings.h"
+
+namespace Velarix {
+
+void vxScript::dispatch() {
+    phase = Phase::kDispatch;
+    switch (getFunctionGroup(fnIndex)) {
+        case kGroupGlobals:
+            return;
+        case kGroupOutput:
+            if (!output) return;
+            output->assign(*assign);
+            if (output->isError()) copyError(output->getError());
+            return;
+        case kGroupMisc:
+            return dispatchMisc();
+        default:
+            return dispatchToView();
+    }
+}
+
+void vxScript::dispatchMisc() {
+    if (!formatSettings) return;
+    const vxAssign& a = *assign;
+    switch (fnIndex) {
+        case kSetDecimalPoint: {
+            const std::wstring text = a.getString(0);
+            if (!text.empty()) formatSettings->setDecimalPoint(text[0]);
+            break;
+        }
+        case kSetThousandsSep: {
+            const std::wstring text = a.getString(0);
+            formatSettings->setThousandsSep(text.empty() ? wchar_t(0) : text[0]);
+            break;
+        }
+        case kSetDateFormat:
+            formatSettings->setDateFormat(a.getString(0));
+            break;
+        case kSetTimeFormat:
+            formatSettings->setTimeFormat(a.getString(0));
+            break;
+        default:
+            break;
+    }
+}
+
+void vxScript::dispatchToView() {
+    if (!drawingOpened) return;
+    if (drawingClosed) {
+        drawingOpened = false;
+        return;
+    }
+    if (!currentView) return;
+    vxView* answering = currentView;
+    currentView = answering->assign(*assign);
+    if (answering->isError()) return copyError(answering->getError());
+    if (!currentView) currentView = answering;
+    if (fnIndex != kOpenDrawing || !drawingSpecs) return;
+
+    // The drawing's size, rendering flags and anti-aliasing.
+    const vxAssign& a = *assign;
+    drawingSpecs->setSize(std::round(a.getFloat(0)), std::round(a.getFloat(1)));
+    drawingSpecs->setRenderingInfo(a.getShort(2, 0));
+    vxRenderingSettings* rendering = userSettings ? userSettings->getRenderingSettings() : nullptr;
+    if (!rendering) return;
+    const short antialiasing = a.getShort(3, 3);
+    rendering->setShapeAntialiasing(antialiasing == 1 || antialiasing > 2 || antialiasing < 0);
+    rendering->setTextAntialiasing(antialiasing >= 2 || antialiasing < 0);
+    rendering->setFractionalMetrics(a.getShort(4, 0) == 1);
+}
+
+}  // namespace Velarix

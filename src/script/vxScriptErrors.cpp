@@ -1,0 +1,140 @@
+// Errors of the reader, located in the script text.
+#include <algorithm>
+
+#include "script/vxScript.h"
+#include "script/vxScriptChars.h"
+#include "settings/vxErrorSettings.h"
+
+namespace Velarix {
+
+using namespace vxScriptChars;
+
+void vxScript::setParsingError(short code, long line, const std::wstring& name, long argIndex,
+                               const std::wstring& scriptPart, const std::wstring& addlInfo) {
+    vxErrorHolder::setParsingError(code, line, name, argIndex < 0 ? -1 : argIndex + 1, scriptPart,
+                                   addlInfo);
+}
+
+void vxScript::raise(short code, long begin, long end) {
+    const long index = (phase == Phase::kArguments || phase == Phase::kAssign) ? argIndex : -1;
+    raise(code, begin, end, index);
+}
+
+void vxScript::raise(short code, long begin, long end, long argumentIndex) {
+    const bool inCall = phase != Phase::kTopLevel && phase != Phase::kName;
+    const std::wstring part = errScriptPart(begin, end);
+    // The line end appended to the text is no line of the user's.
+    const long lastLine = static_cast<long>(std::count(srcString.begin(), srcString.end(), kLineEnd));
+    setParsingError(code, std::min(lineOfError, std::max(1L, lastLine)), inCall ? fnName : std::wstring(),
+                    inCall ? argumentIndex : -1, part, L"");
+}
+
+void vxScript::raiseWithoutLocation(short code) {
+    vxErrorHolder::setParsingError(code, -1, L"", -1, L"", L"");
+}
+
+long vxScript::argumentBegin(long argument) const {
+    size_t at = static_cast<size_t>(argument) * 2;
+    return at < charPositions.size() ? charPositions[at] : closePos;
+}
+
+long vxScript::argumentEnd(long argument) const {
+    size_t at = static_cast<size_t>(argument) * 2 + 1;
+    long end = at < charPositions.size() ? charPositions[at] : closePos;
+    long begin = argumentBegin(argument);
+    while (end > begin && (isBlank(srcString[static_cast<size_t>(end) - 1]) ||
+                           isLineEnd(srcString[static_cast<size_t>(end) - 1]))) {
+        --end;
+    }
+    return end;
+}
+
+void vxScript::raiseAtArgument(short code, long argumentIndex, long element) {
+    long begin = argumentBegin(argumentIndex);
+    long end = argumentEnd(argumentIndex);
+    if (element >= 0) elementSpan(argumentIndex, element, begin, end);
+    lineOfError = lineNumber;
+    raise(code, begin, end, argumentIndex);
+}
+
+// Elements of an array argument are separated by runs of blanks and line
+// ends; comments separate too, and a quoted run belongs to its element.
+void vxScript::elementSpan(long argumentIndex, long element, long& begin, long& end) const {
+    const long first = argumentBegin(argumentIndex);
+    const long last = argumentEnd(argumentIndex);
+    long count = -1;
+    long i = first;
+    while (i < last) {
+        wchar_t c = srcString[static_cast<size_t>(i)];
+        if (isBlank(c) || isLineEnd(c)) {
+            ++i;
+            continue;
+        }
+        if (c == L'/' && i + 1 < last && srcString[static_cast<size_t>(i) + 1] == L'*') {
+            size_t close = srcString.find(L"*/", static_cast<size_t>(i) + 2);
+            i = close == std::wstring::npos ? last : static_cast<long>(close) + 2;
+            continue;
+        }
+        if (c == L'/' && i + 1 < last && srcString[static_cast<size_t>(i) + 1] == L'/') {
+            while (i < last && !isLineEnd(srcString[static_cast<size_t>(i)])) ++i;
+            continue;
+        }
+        const long start = i;
+        wchar_t quote = 0;
+        while (i < last) {
+            c = srcString[static_cast<size_t>(i)];
+            if (quote) {
+                if (closesString(quote, c)) quote = 0;
+            } else if (isOpeningQuote(c)) {
+                quote = c;
+            } else if (isBlank(c) || isLineEnd(c)) {
+                break;
+            }
+            ++i;
+        }
+        if (++count == element) {
+            begin = start;
+            end = i;
+            return;
+        }
+    }
+}
+
+std::wstring vxScript::errScriptPart(long begin, long end) const {
+    if (srcString.empty()) return L"";
+    const long last = static_cast<long>(srcString.size()) - 1;
+    begin = std::clamp(begin, 0L, last + 1);
+    end = std::clamp(end, begin, last + 1);
+
+    long lineStart = begin;
+    while (lineStart > 0 && !isLineEnd(srcString[static_cast<size_t>(lineStart) - 1])) --lineStart;
+    long lineEnd = end;  // exclusive
+    while (lineEnd <= last && !isLineEnd(srcString[static_cast<size_t>(lineEnd)])) ++lineEnd;
+
+    std::wstring span = srcString.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+    std::replace(span.begin(), span.end(), kLineEnd, L' ');
+    std::wstring prefix = errorSettings ? errorSettings->getErrPartPrefix() : L"--->";
+    std::wstring postfix = errorSettings ? errorSettings->getErrPartPostfix() : L"<---";
+    std::wstring text = srcString.substr(static_cast<size_t>(lineStart),
+                                         static_cast<size_t>(begin - lineStart)) +
+                        prefix + span + postfix +
+                        srcString.substr(static_cast<size_t>(end),
+                                         static_cast<size_t>(std::max(0L, lineEnd - end)));
+
+    const long limit = errorSettings ? errorSettings->getMaxCharsOfErrScriptPart() : -1;
+    if (limit < 0 || static_cast<long>(text.size()) <= limit) return text;
+
+    if (lineStart > 0) text = L"\u2026 " + text;
+    if (lineEnd < last) text += L" \u2026";
+    const long length = static_cast<long>(text.size());
+    long from = (length - limit) / 2;
+    long to = (length + limit) / 2;
+    if (to > length) {
+        from -= to - length;
+        to = length;
+    }
+    from = std::max(0L, from);
+    return text.substr(static_cast<size_t>(from), static_cast<size_t>(to - from));
+}
+
+}  // namespace Velarix

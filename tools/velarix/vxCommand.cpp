@@ -1,0 +1,103 @@
+#include "velarix/vxCommand.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <sstream>
+
+#include "host/vxInterface.h"
+#include "host/vxLog.h"
+#include "platform/vxTextCodec.h"
+
+namespace Velarix {
+
+namespace {
+
+// The application kind the command reports to the engine; like a desktop
+// host, it answers an empty script with an empty result.
+constexpr short kAppTypeCommand = 1;
+
+bool readScript(const vxCommandOptions& options, std::istream& in, std::string& bytes,
+                std::string& message) {
+    if (options.script == "-") {
+        bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        return true;
+    }
+    std::ifstream file(options.script, std::ios::binary);
+    if (!file) {
+        message = "cannot read script '" + options.script + "': " + std::strerror(errno);
+        return false;
+    }
+    bytes.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    if (file.bad()) {
+        message = "cannot read script '" + options.script + "'";
+        return false;
+    }
+    return true;
+}
+
+std::wstring decodeScript(const std::string& bytes) {
+    const bool bom = bytes.size() >= 3 && static_cast<unsigned char>(bytes[0]) == 0xEF &&
+                     static_cast<unsigned char>(bytes[1]) == 0xBB &&
+                     static_cast<unsigned char>(bytes[2]) == 0xBF;
+    return vxFromUtf8(std::string_view(bytes).substr(bom ? 3 : 0));
+}
+
+int reportError(const vxInterface& engine, const vxCommandOptions& options, std::ostream& err) {
+    std::wstring message;
+    engine.getErrorMessage(message, options.languageID, options.flags);
+    std::replace(message.begin(), message.end(), L'\r', L'\n');
+    err << vxToUtf8(message);
+    if (!message.empty() && message.back() != L'\n') err << '\n';
+    return kExitScriptError;
+}
+
+}  // namespace
+
+int vxRunCommand(const vxCommandOptions& options, std::istream& in, std::ostream& out,
+                 std::ostream& err) {
+    std::string bytes;
+    std::string message;
+    if (!readScript(options, in, bytes, message)) {
+        err << "velarix: " << message << "\n";
+        return kExitUsage;
+    }
+    if (options.log) vxLog::setFlags(true, false);
+    vxLog::beginRun();
+    const std::wstring source = decodeScript(bytes);
+    int status = kExitSuccess;
+    if (!source.empty()) {
+        auto engine = std::make_unique<vxInterface>(vxFromUtf8(options.base), L"",
+                                                    options.languageID, kAppTypeCommand);
+        if (!engine->isError()) engine->run(source);
+        if (engine->isError()) status = reportError(*engine, options, err);
+        vxLog::withStream([&](std::ostream& log) { engine->dump(3, log); });
+    }
+    vxLog::endRun();
+    return status;
+}
+
+int vxVelarixMain(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
+                  std::ostream& err) {
+    vxCommandOptions options;
+    std::string message;
+    if (!vxParseCommandLine(args, options, message)) {
+        err << "velarix: " << message << " (try velarix --help)\n";
+        return kExitUsage;
+    }
+    if (options.help) {
+        out << vxUsageText();
+        return kExitSuccess;
+    }
+    if (options.version) {
+        out << "velarix " << VELARIX_VERSION_TEXT << "\n";
+        return kExitSuccess;
+    }
+    return vxRunCommand(options, in, out, err);
+}
+
+}  // namespace Velarix
