@@ -25,7 +25,7 @@ demo: build
 	bash scripts/render-examples.sh $(BUILD_DIR)/velarix examples out
 
 asan: deps
-	cmake -S . -B $(ASAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+	cmake -S . -B $(ASAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	      -DVELARIX_SANITIZE=ON $(CMAKE_FLAGS)
 	cmake --build $(ASAN_BUILD_DIR) -j $(JOBS)
 
@@ -41,11 +41,14 @@ fuzz: deps
 
 fuzz-run: fuzz
 	mkdir -p $(FUZZ_BUILD_DIR)/corpus
-	cd $(FUZZ_BUILD_DIR) && ./script_reader_fuzzer -max_total_time=$(FUZZ_SECONDS) \
-	    -max_len=4096 -timeout=10 corpus $(CURDIR)/fuzz/corpus
+	cd $(FUZZ_BUILD_DIR) && ./fuzz/script_reader_fuzzer -max_total_time=$(FUZZ_SECONDS) \
+	    -max_len=4096 -timeout=10 -dict=$(CURDIR)/fuzz/script.dict corpus $(CURDIR)/fuzz/corpus
 
 format:
 	find src tools tests fuzz bench -name '*.cpp' -o -name '*.h' | xargs clang-format -i
 
 clean:
 	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR) $(FUZZ_BUILD_DIR) out
+
+bench: build
+	$(BUILD_DIR)/velarix_bench

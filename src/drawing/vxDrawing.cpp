@@ -15,7 +15,9 @@ namespace Velarix {
 
 namespace {
 
-void logPassed(const char* stage) { vxLog::write(std::string("[vxDrawing::run] PASSED: ") + stage); }
+void logPassed(const char* stage) {
+    vxLog::write(std::string("[vxDrawing::run] PASSED: ") + stage);
+}
 
 }  // namespace
 

@@ -8,7 +8,9 @@ vxView::vxView() : vxErrorHolder(L"vxView") {}
 
 vxView::~vxView() = default;
 
-vxView* vxView::assign(vxAssign&) { return this; }
+vxView* vxView::assign(vxAssign&) {
+    return this;
+}
 
 void vxView::setUp(const float b[4]) {
     for (int i = 0; i < 4; ++i) bounds[i] = b[i];

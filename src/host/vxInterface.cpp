@@ -11,8 +11,8 @@
 
 namespace Velarix {
 
-vxInterface::vxInterface(const std::wstring& appPath, const std::wstring& second,
-                         short languageID, short appType)
+vxInterface::vxInterface(const std::wstring& appPath, const std::wstring& second, short languageID,
+                         short appType)
     : vxErrorHolder(L"vxInterface") {
     if (isError()) return;
     if (!create(userSettings, L"createUserSettings", appPath, second, languageID, appType)) return;
@@ -106,7 +106,9 @@ void vxInterface::getErrorMessage(std::wstring& dest, short languageID,
     std::replace(dest.begin(), dest.end(), L'\n', L'\r');
 }
 
-vxOutputWIN* vxInterface::getOutput() const { return drawing ? drawing->getOutput() : nullptr; }
+vxOutputWIN* vxInterface::getOutput() const {
+    return drawing ? drawing->getOutput() : nullptr;
+}
 
 void vxInterface::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;

@@ -34,7 +34,9 @@ void appendToFile(const std::string& text, bool truncate) {
     if (file) file << text;
 }
 
-std::string indent() { return std::string(static_cast<size_t>(state().indent) * 2, ' '); }
+std::string indent() {
+    return std::string(static_cast<size_t>(state().indent) * 2, ' ');
+}
 
 std::string formatNumber(double v) {
     std::ostringstream s;
@@ -56,8 +58,12 @@ void setFlags(bool log, bool detail) {
     if (turnedOn) appendToFile(timeLine() + "\n", true);
 }
 
-bool isOn() { return state().log; }
-bool isDetailOn() { return state().detail; }
+bool isOn() {
+    return state().log;
+}
+bool isDetailOn() {
+    return state().detail;
+}
 
 void reset() {
     state().pending = false;
@@ -74,7 +80,9 @@ void beginRun() {
     write("[vxCH_DrawChart] START -------------------------------");
 }
 
-void endRun() { write("[vxCH_DrawChart] FINISHED --------------------------------"); }
+void endRun() {
+    write("[vxCH_DrawChart] FINISHED --------------------------------");
+}
 
 void write(const std::string& line) {
     if (!state().log) return;
@@ -104,7 +112,9 @@ std::string timestamp() {
     return "TIMESTAMP: " + formatNumber(ms * 0.001) + " [sec]";
 }
 
-std::string& fileName() { return state().fileName; }
+std::string& fileName() {
+    return state().fileName;
+}
 
 }  // namespace vxLog
 
@@ -120,7 +130,9 @@ void vxDumpEnd(std::ostream&) {
     if (state().indent > 0) --state().indent;
 }
 
-void vxDumpSeparator(std::ostream& out) { out << "\n"; }
+void vxDumpSeparator(std::ostream& out) {
+    out << "\n";
+}
 
 void vxDumpLine(std::ostream& out, const char* label, bool value) {
     out << indent() << label << (value ? "true" : "false") << "\n";
@@ -172,6 +184,8 @@ void vxDumpLine(std::ostream& out, const char* label, const std::vector<short>& 
     out << "\n";
 }
 
-std::string vxNarrow(const std::wstring& text) { return vxToUtf8(text); }
+std::string vxNarrow(const std::wstring& text) {
+    return vxToUtf8(text);
+}
 
 }  // namespace Velarix

@@ -8,7 +8,9 @@ vxOutputWIN::vxOutputWIN() : vxErrorHolder(L"vxOutputWIN") {}
 
 vxOutputWIN::~vxOutputWIN() = default;
 
-void vxOutputWIN::reset() { clearError(); }
+void vxOutputWIN::reset() {
+    clearError();
+}
 
 void vxOutputWIN::assign(vxAssign&) {}
 

@@ -8,7 +8,9 @@ vxCurveFittingData::vxCurveFittingData() : vxErrorHolder(L"vxCurveFittingData") 
 
 vxCurveFittingData::~vxCurveFittingData() = default;
 
-void vxCurveFittingData::copy(const vxCurveFittingData*) { clear(); }
+void vxCurveFittingData::copy(const vxCurveFittingData*) {
+    clear();
+}
 
 void vxCurveFittingData::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;

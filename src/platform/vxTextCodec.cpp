@@ -21,10 +21,22 @@ void appendCodePoint(std::wstring& out, uint32_t cp) {
 // Length of the sequence a lead byte starts, and the bits it contributes;
 // 0 for a byte that can't start one.
 int sequenceLength(unsigned char lead, uint32_t& bits) {
-    if (lead < 0x80) { bits = lead; return 1; }
-    if (lead >= 0xC2 && lead < 0xE0) { bits = lead & 0x1F; return 2; }
-    if (lead >= 0xE0 && lead < 0xF0) { bits = lead & 0x0F; return 3; }
-    if (lead >= 0xF0 && lead < 0xF5) { bits = lead & 0x07; return 4; }
+    if (lead < 0x80) {
+        bits = lead;
+        return 1;
+    }
+    if (lead >= 0xC2 && lead < 0xE0) {
+        bits = lead & 0x1F;
+        return 2;
+    }
+    if (lead >= 0xE0 && lead < 0xF0) {
+        bits = lead & 0x0F;
+        return 3;
+    }
+    if (lead >= 0xF0 && lead < 0xF5) {
+        bits = lead & 0x07;
+        return 4;
+    }
     return 0;
 }
 

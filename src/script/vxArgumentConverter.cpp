@@ -26,31 +26,54 @@ vxConversion vxArgumentConverter::convert(long id, long argIndex, const vxArgume
     index = argIndex;
     descriptor = &d;
     switch (d.getType()) {
-        case 1: return convertString(text);
+        case 1:
+            return convertString(text);
         case 2:
-        case 21: return convertInteger(text, Element::kShort);
-        case 3: return convertInteger(text, Element::kLong);
-        case 4: return convertReal(text, Element::kFloat, false);
-        case 5: return convertReal(text, Element::kDouble, false);
-        case 6: return convertDate(text);
-        case 7: return convertReal(text, Element::kFloat, true);
+        case 21:
+            return convertInteger(text, Element::kShort);
+        case 3:
+            return convertInteger(text, Element::kLong);
+        case 4:
+            return convertReal(text, Element::kFloat, false);
+        case 5:
+            return convertReal(text, Element::kDouble, false);
+        case 6:
+            return convertDate(text);
+        case 7:
+            return convertReal(text, Element::kFloat, true);
         case 8:
-        case 9: return convertArray(text, Element::kShort);
-        case 10: return convertArray(text, Element::kLong);
-        case 11: return convertArray(text, Element::kFloat);
-        case 12: return convertArray(text, Element::kDouble);
-        case 13: return convertChartValues(text);
-        case 14: return convertArray(text, Element::kFloat, 0.017453292519943295);
-        case 15: return convertFont(text);
-        case 16: return convertSource(text);
-        case 17: return convertOutputPath(text);
-        case 18: return convertInterpolation(text);
-        case 19: return convertLimitedFloats(text, 102, true);
-        case 20: return convertColor(text);
-        case 22: return convertLimitedFloats(text, 3, true);
-        case 23: return convertLimitedFloats(text, SIZE_MAX, false);
-        case 24: return convertLongList(text);
-        default: return {kValue, -1};
+        case 9:
+            return convertArray(text, Element::kShort);
+        case 10:
+            return convertArray(text, Element::kLong);
+        case 11:
+            return convertArray(text, Element::kFloat);
+        case 12:
+            return convertArray(text, Element::kDouble);
+        case 13:
+            return convertChartValues(text);
+        case 14:
+            return convertArray(text, Element::kFloat, 0.017453292519943295);
+        case 15:
+            return convertFont(text);
+        case 16:
+            return convertSource(text);
+        case 17:
+            return convertOutputPath(text);
+        case 18:
+            return convertInterpolation(text);
+        case 19:
+            return convertLimitedFloats(text, 102, true);
+        case 20:
+            return convertColor(text);
+        case 22:
+            return convertLimitedFloats(text, 3, true);
+        case 23:
+            return convertLimitedFloats(text, SIZE_MAX, false);
+        case 24:
+            return convertLongList(text);
+        default:
+            return {kValue, -1};
     }
 }
 

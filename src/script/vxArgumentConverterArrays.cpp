@@ -20,7 +20,9 @@ using namespace vxErrScript;
 
 namespace {
 
-bool isIntegerKind(int kind) { return kind <= 1; }
+bool isIntegerKind(int kind) {
+    return kind <= 1;
+}
 
 }  // namespace
 
@@ -153,12 +155,15 @@ vxConversion vxArgumentConverter::convertInterpolation(const std::wstring& text)
                 maxCount = 5;
                 result = testRange(values, 4, 5, 0.0, 2.0);
                 break;
-            case 2: maxCount = 4; break;
+            case 2:
+                maxCount = 4;
+                break;
             case 4:
                 maxCount = 2;
                 result = testRange(values, 1, 2, 0.0, 10.0);
                 break;
-            default: break;
+            default:
+                break;
         }
         if (values.size() > maxCount) return {kTooManyElements, static_cast<long>(maxCount)};
         if (result.code != 0) return result;
@@ -240,7 +245,8 @@ vxConversion vxArgumentConverter::convertColor(const std::wstring& text) {
             result = testRange(values, 0, values.size(), std::round(descriptor->getMinValue()),
                                std::round(descriptor->getMaxValue()));
             break;
-        default: return {kNumberOfElements, -1};
+        default:
+            return {kNumberOfElements, -1};
     }
     if (result.code != 0) return result;
     addArray(values, Element::kFloat);

@@ -1,4 +1,6 @@
 // String, date, chart value, font and file arguments.
+#include <algorithm>
+
 #include "Utilities/Sources/vxDateText.h"
 #include "Utilities/Sources/vxDouble.h"
 #include "Utilities/Sources/vxLong.h"
@@ -57,6 +59,19 @@ bool isEndOfDay(const std::wstring& text) {
         }
     }
     return true;
+}
+
+bool isNull(const std::wstring& text) {
+    return text.size() == 4 && (text[0] | 0x20) == L'n' && (text[1] | 0x20) == L'u' &&
+           (text[2] | 0x20) == L'l' && (text[3] | 0x20) == L'l';
+}
+
+// The number form, with a decimal comma read as a point.
+bool isNumberText(const std::wstring& text) {
+    if (text.find(L',') == std::wstring::npos) return vxDouble::testNumber(text) == 0;
+    std::wstring number = text;
+    vxStringOLD::replaceFirstComma(number);
+    return vxDouble::testNumber(number) == 0;
 }
 
 }  // namespace
@@ -123,21 +138,16 @@ vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
     std::wstring token;
     std::wstring joined;
     long element = -1;
+    joined.reserve(text.size() + 1);
     while (tokens.next(token)) {
         ++element;
-        std::wstring value = unquoted(token);
+        std::wstring value = isQuoted(token) ? unquoted(token) : std::move(token);
         if (value.empty()) continue;
-        if (protectBlanks) {
-            for (wchar_t& c : value) {
-                if (c == L' ') c = L'&';
-            }
-        }
-        if (vxStringOLD::toLower(value) == L"null") {
+        if (protectBlanks) std::replace(value.begin(), value.end(), L' ', L'&');
+        if (isNull(value)) {
             value = L"NULL";
         } else {
-            std::wstring number = value;
-            vxStringOLD::replaceFirstComma(number);
-            const bool isNumber = vxDouble::testNumber(number) == 0;
+            const bool isNumber = isNumberText(value);
             if (kind == Kind::kUnknown) {
                 if (isNumber) {
                     kind = Kind::kNumber;

@@ -40,8 +40,9 @@ short findInOrder(std::span<const vxConstantWord> words, const std::wstring& key
 std::span<const vxConstantWord> vxConstants::table(short constantType) {
     if (constantType == kColorNames) return vxColorNames();
     const auto tables = vxKeywordTables();
-    const auto it =
-        std::ranges::lower_bound(tables, constantType, {}, &vxConstantTable::constantType);
+    const auto it = std::lower_bound(
+        tables.begin(), tables.end(), constantType,
+        [](const vxConstantTable& t, short type) { return t.constantType < type; });
     if (it == tables.end() || it->constantType != constantType) return {};
     return it->words;
 }

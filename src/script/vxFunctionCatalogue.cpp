@@ -889,8 +889,11 @@ static_assert(isSortedById(), "descriptor rows must be grouped by ascending id")
 }  // namespace
 
 std::span<const vxArgumentRow> vxFunctionArguments(long id) {
-    const auto rows = std::ranges::equal_range(kArguments, id, {}, &vxArgumentRow::id);
-    return {rows.begin(), rows.end()};
+    const auto first = std::lower_bound(std::begin(kArguments), std::end(kArguments), id,
+                                        [](const vxArgumentRow& r, long v) { return r.id < v; });
+    auto last = first;
+    while (last != std::end(kArguments) && last->id == id) ++last;
+    return {first, last};
 }
 
 }  // namespace Velarix

@@ -13,8 +13,7 @@ namespace Velarix {
 
 using namespace vxScriptChars;
 
-vxScript::vxScript(vxUserSettings* settings, vxDrawingSpecs* specs, vxView* view,
-                   vxOutputWIN* out)
+vxScript::vxScript(vxUserSettings* settings, vxDrawingSpecs* specs, vxView* view, vxOutputWIN* out)
     : vxErrorHolder(L"vxScript"),
       userSettings(settings),
       drawingSpecs(specs),
@@ -88,6 +87,7 @@ void vxScript::setText(const std::string& s) {
 }
 
 void vxScript::tokenize(const std::wstring& s) {
+    clearError();
     setText(s);
     if (!isError()) parse();
 }
@@ -173,7 +173,9 @@ void vxScript::extractFunctionName() {
     }
 }
 
-void vxScript::lookUpFunction() { fnIndex = vxFindFunction(fnName); }
+void vxScript::lookUpFunction() {
+    fnIndex = vxFindFunction(fnName);
+}
 
 static bool isOutputFunction(long id) {
     switch (id) {
@@ -198,7 +200,8 @@ void vxScript::checkOrder(long begin, long end) {
     phase = Phase::kOrder;
     lineOfError = lineNumber;
     if (fnIndex == kOpenDrawing) {
-        if (drawingOpened || drawingClosed) return raise(vxErrLayout::kOpenDrawingTwice, begin, end);
+        if (drawingOpened || drawingClosed)
+            return raise(vxErrLayout::kOpenDrawingTwice, begin, end);
         drawingOpened = true;
     } else if (fnIndex == kCloseDrawing) {
         if (drawingClosed) return raise(vxErrLayout::kCloseDrawingTwice, begin, end);
@@ -320,12 +323,22 @@ void vxScript::extractEscape() {
         case L'n':
             value = (fnIndex == kChartDataRead || fnIndex == kChartDataWrite) ? 0x000A : 0x000D;
             break;
-        case L'r': value = 0x000D; break;
-        case L't': value = 0x0009; break;
-        case L'\\': value = L'\\'; break;
-        case L'"': value = 0x0022; break;
-        case L'x': return extractHexEscape(2);
-        case L'u': return extractHexEscape(4);
+        case L'r':
+            value = 0x000D;
+            break;
+        case L't':
+            value = 0x0009;
+            break;
+        case L'\\':
+            value = L'\\';
+            break;
+        case L'"':
+            value = 0x0022;
+            break;
+        case L'x':
+            return extractHexEscape(2);
+        case L'u':
+            return extractHexEscape(4);
         default:
             lineOfError = lineNumber;
             return raise(vxErrScript::kString, at, at + 2);
@@ -344,18 +357,23 @@ void vxScript::extractHexEscape(int digits) {
         if (!isHexDigit(c)) return raise(vxErrScript::kSyntax, at, at + 2 + digits);
         value = value * 16 + static_cast<unsigned>(hexValue(c));
     }
-    if (digits == 4 || (value >= 32 && value <= 255)) argument.push_back(static_cast<wchar_t>(value));
+    if (digits == 4 || (value >= 32 && value <= 255))
+        argument.push_back(static_cast<wchar_t>(value));
     charIndex = at + 2 + digits;
 }
 
 bool vxScript::isLiteralSlash() const {
     if (phase != Phase::kArguments) return false;
     switch (fnIndex) {
-        case kChartData: return true;
-        case kScaling: return argIndex == 2 || argIndex == 3;
+        case kChartData:
+            return true;
+        case kScaling:
+            return argIndex == 2 || argIndex == 3;
         case kBarChartOptions:
-        case kAreaChartOptions: return argIndex == 1;
-        default: return false;
+        case kAreaChartOptions:
+            return argIndex == 1;
+        default:
+            return false;
     }
 }
 
@@ -380,9 +398,8 @@ bool vxScript::skipComment() {
             raise(vxErrScript::kComment, start, maxCharIndex);
             return false;
         }
-        lineNumber += static_cast<long>(std::count(srcString.begin() + charIndex,
-                                                   srcString.begin() + static_cast<long>(close),
-                                                   kLineEnd));
+        lineNumber += static_cast<long>(std::count(
+            srcString.begin() + charIndex, srcString.begin() + static_cast<long>(close), kLineEnd));
         charIndex = static_cast<long>(close) + 2;
         return false;
     }

@@ -111,9 +111,9 @@ private:
     // Where the pass stands; decides what an error reports of its place.
     enum class Phase { kTopLevel, kName, kOrder, kArguments, kAssign, kDispatch };
     Phase phase = Phase::kTopLevel;
-    long lineOfError = 1;   // the line an error reports
-    long bracketPos = 0;    // behind the "(" of the current call
-    long closePos = 0;      // at the ")" of the current call
+    long lineOfError = 1;  // the line an error reports
+    long bracketPos = 0;   // behind the "(" of the current call
+    long closePos = 0;     // at the ")" of the current call
 
     vxUserSettings* userSettings;
     vxErrorSettings* errorSettings = nullptr;

@@ -31,8 +31,8 @@ void vxScript::assignArguments() {
     const long n = static_cast<long>(arguments.size());
     for (argIndex = 0; argIndex < n; ++argIndex) {
         const vxArgument* descriptor = function->getArgument(argIndex);
-        const vxConversion result =
-            converter.convert(fnIndex, argIndex, *descriptor, arguments[static_cast<size_t>(argIndex)]);
+        const vxConversion result = converter.convert(fnIndex, argIndex, *descriptor,
+                                                      arguments[static_cast<size_t>(argIndex)]);
         if (assign->isError()) return copyError(assign->getError());
         if (result.code != 0) return raiseAtArgument(result.code, argIndex, result.element);
     }

@@ -24,9 +24,10 @@ void vxScript::raise(short code, long begin, long end, long argumentIndex) {
     const bool inCall = phase != Phase::kTopLevel && phase != Phase::kName;
     const std::wstring part = errScriptPart(begin, end);
     // The line end appended to the text is no line of the user's.
-    const long lastLine = static_cast<long>(std::count(srcString.begin(), srcString.end(), kLineEnd));
-    setParsingError(code, std::min(lineOfError, std::max(1L, lastLine)), inCall ? fnName : std::wstring(),
-                    inCall ? argumentIndex : -1, part, L"");
+    const long lastLine =
+        static_cast<long>(std::count(srcString.begin(), srcString.end(), kLineEnd));
+    setParsingError(code, std::min(lineOfError, std::max(1L, lastLine)),
+                    inCall ? fnName : std::wstring(), inCall ? argumentIndex : -1, part, L"");
 }
 
 void vxScript::raiseWithoutLocation(short code) {
@@ -58,45 +59,42 @@ void vxScript::raiseAtArgument(short code, long argumentIndex, long element) {
 }
 
 // Elements of an array argument are separated by runs of blanks and line
-// ends; comments separate too, and a quoted run belongs to its element.
+// ends; comments are passed over, and a quoted run belongs to its element.
 void vxScript::elementSpan(long argumentIndex, long element, long& begin, long& end) const {
-    const long first = argumentBegin(argumentIndex);
     const long last = argumentEnd(argumentIndex);
     long count = -1;
-    long i = first;
+    long start = 0;
+    bool inElement = false;
+    wchar_t quote = 0;
+    long i = argumentBegin(argumentIndex);
     while (i < last) {
-        wchar_t c = srcString[static_cast<size_t>(i)];
-        if (isBlank(c) || isLineEnd(c)) {
-            ++i;
-            continue;
-        }
-        if (c == L'/' && i + 1 < last && srcString[static_cast<size_t>(i) + 1] == L'*') {
+        const wchar_t c = srcString[static_cast<size_t>(i)];
+        const wchar_t next = srcString[static_cast<size_t>(i) + 1];
+        if (quote) {
+            if (closesString(quote, c)) quote = 0;
+        } else if (c == L'/' && next == L'*') {
             size_t close = srcString.find(L"*/", static_cast<size_t>(i) + 2);
             i = close == std::wstring::npos ? last : static_cast<long>(close) + 2;
             continue;
-        }
-        if (c == L'/' && i + 1 < last && srcString[static_cast<size_t>(i) + 1] == L'/') {
+        } else if (c == L'/' && next == L'/') {
             while (i < last && !isLineEnd(srcString[static_cast<size_t>(i)])) ++i;
             continue;
-        }
-        const long start = i;
-        wchar_t quote = 0;
-        while (i < last) {
-            c = srcString[static_cast<size_t>(i)];
-            if (quote) {
-                if (closesString(quote, c)) quote = 0;
-            } else if (isOpeningQuote(c)) {
-                quote = c;
-            } else if (isBlank(c) || isLineEnd(c)) {
-                break;
+        } else if (isBlank(c) || isLineEnd(c)) {
+            if (inElement && count == element) break;
+            inElement = false;
+        } else {
+            if (!inElement) {
+                inElement = true;
+                start = i;
+                ++count;
             }
-            ++i;
+            if (isOpeningQuote(c)) quote = c;
         }
-        if (++count == element) {
-            begin = start;
-            end = i;
-            return;
-        }
+        ++i;
+    }
+    if (inElement && count == element) {
+        begin = start;
+        end = i;
     }
 }
 
@@ -111,15 +109,16 @@ std::wstring vxScript::errScriptPart(long begin, long end) const {
     long lineEnd = end;  // exclusive
     while (lineEnd <= last && !isLineEnd(srcString[static_cast<size_t>(lineEnd)])) ++lineEnd;
 
-    std::wstring span = srcString.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+    std::wstring span =
+        srcString.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
     std::replace(span.begin(), span.end(), kLineEnd, L' ');
     std::wstring prefix = errorSettings ? errorSettings->getErrPartPrefix() : L"--->";
     std::wstring postfix = errorSettings ? errorSettings->getErrPartPostfix() : L"<---";
-    std::wstring text = srcString.substr(static_cast<size_t>(lineStart),
-                                         static_cast<size_t>(begin - lineStart)) +
-                        prefix + span + postfix +
-                        srcString.substr(static_cast<size_t>(end),
-                                         static_cast<size_t>(std::max(0L, lineEnd - end)));
+    std::wstring text =
+        srcString.substr(static_cast<size_t>(lineStart), static_cast<size_t>(begin - lineStart)) +
+        prefix + span + postfix +
+        srcString.substr(static_cast<size_t>(end),
+                         static_cast<size_t>(std::max(0L, lineEnd - end)));
 
     const long limit = errorSettings ? errorSettings->getMaxCharsOfErrScriptPart() : -1;
     if (limit < 0 || static_cast<long>(text.size()) <= limit) return text;

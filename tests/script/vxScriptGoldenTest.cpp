@@ -71,7 +71,8 @@ std::string actualText(const GoldenCase& c, std::vector<std::string>& failures) 
     std::string text = "## " + c.name + "\n" + c.script;
     for (const Expectation& e : c.expectations) {
         RunResult r = runVelarix(c.script, {"--lang", e.lang, "--flags", e.flags});
-        text += "--> " + e.lang + " " + e.flags + " exit " + std::to_string(r.status) + "\n" + r.err;
+        text +=
+            "--> " + e.lang + " " + e.flags + " exit " + std::to_string(r.status) + "\n" + r.err;
         if (r.status != e.status || r.err != e.err) {
             failures.push_back(c.name + " [" + e.header + "]\n  expected: " + e.err +
                                "  actual (exit " + std::to_string(r.status) + "): " + r.err);
@@ -94,9 +95,15 @@ void checkGoldenFile(const std::string& name) {
     for (const std::string& f : failures) ADD_FAILURE() << f;
 }
 
-TEST(ScriptGolden, SyntaxErrors) { checkGoldenFile("syntax-errors.txt"); }
-TEST(ScriptGolden, ValueErrors) { checkGoldenFile("value-errors.txt"); }
-TEST(ScriptGolden, MessageLevels) { checkGoldenFile("message-levels.txt"); }
+TEST(ScriptGolden, SyntaxErrors) {
+    checkGoldenFile("syntax-errors.txt");
+}
+TEST(ScriptGolden, ValueErrors) {
+    checkGoldenFile("value-errors.txt");
+}
+TEST(ScriptGolden, MessageLevels) {
+    checkGoldenFile("message-levels.txt");
+}
 
 }  // namespace
 }  // namespace Velarix::test

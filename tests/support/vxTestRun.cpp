@@ -28,8 +28,8 @@ RunResult runVelarixBinary(const std::string& command, const std::string& input)
     const std::string inPath = folder + "/in";
     const std::string errPath = folder + "/err";
     writeFile(inPath, input);
-    const std::string line = std::string(VELARIX_BINARY) + " " + command + " < " + inPath +
-                             " 2> " + errPath;
+    const std::string line =
+        std::string(VELARIX_BINARY) + " " + command + " < " + inPath + " 2> " + errPath;
     RunResult result;
     FILE* pipe = popen(line.c_str(), "r");
     if (!pipe) return result;

@@ -5,7 +5,6 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <sstream>
 
@@ -24,7 +23,9 @@ constexpr short kAppTypeCommand = 1;
 bool readScript(const vxCommandOptions& options, std::istream& in, std::string& bytes,
                 std::string& message) {
     if (options.script == "-") {
-        bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        std::ostringstream text;
+        text << in.rdbuf();
+        bytes = std::move(text).str();
         return true;
     }
     std::ifstream file(options.script, std::ios::binary);
@@ -32,7 +33,9 @@ bool readScript(const vxCommandOptions& options, std::istream& in, std::string& 
         message = "cannot read script '" + options.script + "': " + std::strerror(errno);
         return false;
     }
-    bytes.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    std::ostringstream text;
+    text << file.rdbuf();
+    bytes = std::move(text).str();
     if (file.bad()) {
         message = "cannot read script '" + options.script + "'";
         return false;

@@ -10,12 +10,12 @@
 namespace Velarix {
 
 struct vxCommandOptions {
-    std::string base;           // folder for relative file names; empty: current
-    short languageID = 1;       // 1 English, 2 German
+    std::string base;            // folder for relative file names; empty: current
+    short languageID = 1;        // 1 English, 2 German
     std::wstring flags = L"13";  // message flags: code first, detail level, prefix
-    std::string streamsDir;     // where host streams are written; empty: nowhere
-    bool log = false;           // Velarix.txt in the current folder
-    std::string script = "-";   // a file, or "-" for standard input
+    std::string streamsDir;      // where host streams are written; empty: nowhere
+    bool log = false;            // Velarix.txt in the current folder
+    std::string script = "-";    // a file, or "-" for standard input
     bool help = false;
     bool version = false;
 };

@@ -28,8 +28,7 @@ const char* vxUsageText() {
 namespace {
 
 bool takeValue(const std::vector<std::string>& args, size_t& i, const std::string& name,
-               std::string& inlineValue, bool hasInline, std::string& value,
-               std::string& message) {
+               std::string& inlineValue, bool hasInline, std::string& value, std::string& message) {
     if (hasInline) {
         value = inlineValue;
         return true;

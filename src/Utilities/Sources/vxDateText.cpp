@@ -4,8 +4,12 @@ namespace Velarix {
 
 namespace {
 
-bool isDateSeparator(wchar_t c) { return c == L'/' || c == L'-' || c == L'.'; }
-bool isTimeSeparator(wchar_t c) { return c == L':' || c == L'\''; }
+bool isDateSeparator(wchar_t c) {
+    return c == L'/' || c == L'-' || c == L'.';
+}
+bool isTimeSeparator(wchar_t c) {
+    return c == L':' || c == L'\'';
+}
 
 struct Shape {
     int dateSeparators = 0;
