@@ -34,7 +34,9 @@ void BM_ReadSmallScript(benchmark::State& state) {
               "FillStyle(all; #3366ff)\nCloseChart()\nCloseView()\nCloseDrawing()\n");
 }
 
-void BM_ReadTenMegabytes(benchmark::State& state) { runScript(state, largeScript()); }
+void BM_ReadTenMegabytes(benchmark::State& state) {
+    runScript(state, largeScript());
+}
 
 }  // namespace
 

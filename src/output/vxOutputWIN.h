@@ -11,6 +11,7 @@
 
 #include <ostream>
 
+#include "output/vxStreamRecord.h"
 #include "settings/vxErrorHolder.h"
 
 namespace Velarix {
@@ -29,6 +30,9 @@ public:
     virtual void setUp(const vxDrawingSpecs* specs);
     virtual void write(vxLayerManager* layerMng);
     virtual long getNumOfStreams() const { return 0; }
+    // The stream of the given index, in the order the script asked for
+    // them; null when there is none.
+    virtual const vxStreamRecord* getStream(long index) const { return nullptr; }
     virtual void dump(short depth, std::ostream& out) const;
 };
 

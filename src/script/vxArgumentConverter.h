@@ -39,6 +39,9 @@ private:
     vxConversion convertReal(const std::wstring& text, Element kind, bool isAngle);
 
     // Arrays
+    Frame openArray(const std::wstring& text, Element kind, std::vector<double>& values,
+                    vxConversion& result);
+    vxConversion testInterpolation(const std::vector<double>& values) const;
     vxConversion convertArray(const std::wstring& text, Element kind, double factor = 1.0);
     vxConversion convertLimitedFloats(const std::wstring& text, size_t maxCount, bool ranged);
     vxConversion convertInterpolation(const std::wstring& text);

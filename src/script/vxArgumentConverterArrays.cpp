@@ -74,25 +74,35 @@ bool vxArgumentConverter::addArray(const std::vector<double>& values, Element ki
     return false;
 }
 
+// The frame of an array argument: void, a keyword's value as the only
+// element, or the elements written.
+vxArgumentConverter::Frame vxArgumentConverter::openArray(const std::wstring& text, Element kind,
+                                                          std::vector<double>& values,
+                                                          vxConversion& result) {
+    std::wstring constant;
+    const Frame frame = openFrame(text, constant, result);
+    if (frame == Frame::kConstant) values.push_back(vxDouble::toDouble(constant));
+    if (frame != Frame::kNumber) return frame;
+    result = readElements(text, kind, values, false);
+    return result.code == 0 ? frame : Frame::kFailed;
+}
+
 vxConversion vxArgumentConverter::convertArray(const std::wstring& text, Element kind,
                                                double factor) {
     vxConversion result;
-    std::wstring constant;
-    Frame frame = openFrame(text, constant, result);
-    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
     std::vector<double> values;
-    if (frame == Frame::kConstant) {
-        values.push_back(vxDouble::toDouble(constant));
-    } else {
-        result = readElements(text, kind, values, true);
-        if (result.code != 0) return result;
+    const Frame frame = openArray(text, kind, values, result);
+    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
+    if (frame == Frame::kNumber) {
+        result = testRange(values, 0, values.size(), descriptor->getMinValue(),
+                           descriptor->getMaxValue());
     }
-    if (kind == Element::kShort || kind == Element::kLong) {
+    if (result.code == 0 && (kind == Element::kShort || kind == Element::kLong)) {
         const double low = kind == Element::kShort ? -32768.0 : -2147483648.0;
         const double high = kind == Element::kShort ? 32767.0 : 2147483647.0;
         result = testRange(values, 0, values.size(), low, high);
-        if (result.code != 0) return result;
     }
+    if (result.code != 0) return result;
     for (double& v : values) v *= factor;
     addArray(values, kind);
     return {};
@@ -101,15 +111,10 @@ vxConversion vxArgumentConverter::convertArray(const std::wstring& text, Element
 vxConversion vxArgumentConverter::convertLimitedFloats(const std::wstring& text, size_t maxCount,
                                                        bool ranged) {
     vxConversion result;
-    std::wstring constant;
-    Frame frame = openFrame(text, constant, result);
-    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
     std::vector<double> values;
-    if (frame == Frame::kConstant) {
-        values.push_back(vxDouble::toDouble(constant));
-    } else {
-        result = readElements(text, Element::kFloat, values, false);
-        if (result.code != 0) return result;
+    const Frame frame = openArray(text, Element::kFloat, values, result);
+    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
+    if (frame == Frame::kNumber) {
         if (values.size() > maxCount) return {kTooManyElements, static_cast<long>(maxCount)};
         if (ranged) {
             result = testRange(values, 0, values.size(), descriptor->getMinValue(),
@@ -121,57 +126,57 @@ vxConversion vxArgumentConverter::convertLimitedFloats(const std::wstring& text,
     return {};
 }
 
-// A mode, then its parameters: for a jump line the start and end outdents,
-// the shift and the length; for a step line the first three of them; for a
-// smooth line the tension.
-vxConversion vxArgumentConverter::convertInterpolation(const std::wstring& text) {
+// The parameters that follow an interpolation mode: for a jump line the
+// start and end outdents, the shift and the length; for a step line the
+// first three of them; for a smooth line the tension.
+vxConversion vxArgumentConverter::testInterpolation(const std::vector<double>& values) const {
+    if (values.empty()) return {kValue, -1};
+    const double mode = values[0];
+    if (mode < descriptor->getMinValue() || mode > descriptor->getMaxValue()) {
+        return {kOutOfRange, 0};
+    }
+    if (mode != std::floor(mode)) return {kValue, 0};
+    size_t maxCount = 1;
     vxConversion result;
-    std::wstring constant;
+    switch (static_cast<int>(mode)) {
+        case 1:
+            maxCount = 5;
+            result = testRange(values, 4, 5, 0.0, 2.0);
+            break;
+        case 2:
+            maxCount = 4;
+            break;
+        case 4:
+            maxCount = 2;
+            result = testRange(values, 1, 2, 0.0, 10.0);
+            break;
+        default:
+            break;
+    }
+    if (values.size() > maxCount) return {kTooManyElements, static_cast<long>(maxCount)};
+    if (result.code == 0 && (mode == 1 || mode == 2)) {
+        result = testRange(values, 1, 3, 0.0, 10000.0);
+        if (result.code == 0) result = testRange(values, 3, 4, 0.0, 1.0);
+    }
+    return result;
+}
+
+vxConversion vxArgumentConverter::convertInterpolation(const std::wstring& text) {
     // The mode may be a keyword followed by its numbers: "jump 1 2 0.5 1".
     const size_t blank = text.find(L' ');
-    if (blank != std::wstring::npos && !text.empty() && vxScriptChars::isLetter(text[0])) {
+    if (blank != std::wstring::npos && vxScriptChars::isLetter(text[0])) {
         std::wstring mode;
         short code = lookUpConstant(text.substr(0, blank), mode);
         if (code != 0) return {code, 0};
         return convertInterpolation(mode + text.substr(blank));
     }
-    Frame frame = openFrame(text, constant, result);
-    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
+    vxConversion result;
     std::vector<double> values;
-    if (frame == Frame::kConstant) {
-        values.push_back(vxDouble::toDouble(constant));
-    } else {
-        result = readElements(text, Element::kFloat, values, false);
+    const Frame frame = openArray(text, Element::kFloat, values, result);
+    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
+    if (frame == Frame::kNumber) {
+        result = testInterpolation(values);
         if (result.code != 0) return result;
-        if (values.empty()) return {kValue, -1};
-        const double mode = values[0];
-        if (mode < descriptor->getMinValue() || mode > descriptor->getMaxValue()) {
-            return {kOutOfRange, 0};
-        }
-        if (mode != std::floor(mode)) return {kValue, 0};
-        size_t maxCount = 1;
-        switch (static_cast<int>(mode)) {
-            case 1:
-                maxCount = 5;
-                result = testRange(values, 4, 5, 0.0, 2.0);
-                break;
-            case 2:
-                maxCount = 4;
-                break;
-            case 4:
-                maxCount = 2;
-                result = testRange(values, 1, 2, 0.0, 10.0);
-                break;
-            default:
-                break;
-        }
-        if (values.size() > maxCount) return {kTooManyElements, static_cast<long>(maxCount)};
-        if (result.code != 0) return result;
-        if (mode == 1 || mode == 2) {
-            result = testRange(values, 1, 3, 0.0, 10000.0);
-            if (result.code == 0) result = testRange(values, 3, 4, 0.0, 1.0);
-            if (result.code != 0) return result;
-        }
     }
     addArray(values, Element::kFloat);
     return {};
@@ -181,17 +186,11 @@ vxConversion vxArgumentConverter::convertInterpolation(const std::wstring& text)
 // indexes, where small negative numbers count from the end.
 vxConversion vxArgumentConverter::convertLongList(const std::wstring& text) {
     vxConversion result;
-    std::wstring constant;
-    Frame frame = openFrame(text, constant, result);
-    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
     std::vector<double> values;
-    if (frame == Frame::kConstant) {
-        values.push_back(vxDouble::toDouble(constant));
-    } else {
-        result = readElements(text, Element::kLong, values, false);
-        if (result.code == 0) {
-            result = testRange(values, 0, 1, descriptor->getMinValue(), descriptor->getMaxValue());
-        }
+    const Frame frame = openArray(text, Element::kLong, values, result);
+    if (frame == Frame::kVoid || frame == Frame::kFailed) return result;
+    if (frame == Frame::kNumber) {
+        result = testRange(values, 0, 1, descriptor->getMinValue(), descriptor->getMaxValue());
         if (result.code == 0) result = testRange(values, 1, values.size(), -5.0, 2147483647.0);
         if (result.code != 0) return result;
     }

@@ -10,6 +10,8 @@
 
 #include "host/vxInterface.h"
 #include "host/vxLog.h"
+#include "output/vxOutputWIN.h"
+#include "output/vxStreamRecord.h"
 #include "platform/vxTextCodec.h"
 
 namespace Velarix {
@@ -50,6 +52,51 @@ std::wstring decodeScript(const std::string& bytes) {
     return vxFromUtf8(std::string_view(bytes).substr(bom ? 3 : 0));
 }
 
+const char* streamExtension(short formatCode) {
+    switch (formatCode) {
+        case kStreamGIF:
+            return "gif";
+        case kStreamJPEG:
+            return "jpg";
+        case kStreamTIFF:
+            return "tif";
+        case kStreamPNG:
+            return "png";
+        case kStreamBMP:
+            return "bmp";
+        case kStreamPICT:
+            return "pict";
+        case kStreamMeta:
+            return "emf";
+        case kStreamPDF:
+            return "pdf";
+        default:
+            return nullptr;
+    }
+}
+
+// Writes the streams a host would receive as DIR/stream-N.EXT; streams of
+// a format the host has no type for are passed over, as the host does.
+bool writeStreams(const vxInterface& engine, const std::string& folder, std::ostream& err) {
+    const vxOutputWIN* output = engine.getOutput();
+    const long count = engine.getNumOfStreams();
+    long number = 0;
+    for (long i = 0; output && i < count; ++i) {
+        const vxStreamRecord* stream = output->getStream(i);
+        const char* extension = stream ? streamExtension(stream->formatCode) : nullptr;
+        if (!extension) continue;
+        const std::string path = folder + "/stream-" + std::to_string(++number) + "." + extension;
+        std::ofstream file(path, std::ios::binary);
+        file.write(reinterpret_cast<const char*>(stream->bytes.data()),
+                   static_cast<std::streamsize>(stream->bytes.size()));
+        if (!file) {
+            err << "velarix: cannot write " << path << "\n";
+            return false;
+        }
+    }
+    return true;
+}
+
 int reportError(const vxInterface& engine, const vxCommandOptions& options, std::ostream& err) {
     std::wstring message;
     engine.getErrorMessage(message, options.languageID, options.flags);
@@ -71,13 +118,18 @@ int vxRunCommand(const vxCommandOptions& options, std::istream& in, std::ostream
     }
     if (options.log) vxLog::setFlags(true, false);
     vxLog::beginRun();
+    vxLog::write("[vxCH_DrawChart] filePath: " + options.base);
     const std::wstring source = decodeScript(bytes);
     int status = kExitSuccess;
     if (!source.empty()) {
         auto engine = std::make_unique<vxInterface>(vxFromUtf8(options.base), L"",
                                                     options.languageID, kAppTypeCommand);
         if (!engine->isError()) engine->run(source);
-        if (engine->isError()) status = reportError(*engine, options, err);
+        if (engine->isError()) {
+            status = reportError(*engine, options, err);
+        } else if (!options.streamsDir.empty() && !writeStreams(*engine, options.streamsDir, err)) {
+            status = kExitUsage;
+        }
         vxLog::withStream([&](std::ostream& log) { engine->dump(3, log); });
     }
     vxLog::endRun();
