@@ -24,7 +24,7 @@ void logPassed(const char* stage) {
 vxDrawing::vxDrawing(vxUserSettings* settings)
     : vxErrorHolder(L"vxDrawing"), userSettings(settings) {
     if (isError()) return;
-    if (!create(view, L"createView") || takeError(view.get())) return;
+    if (!create(view, L"createView", userSettings) || takeError(view.get())) return;
     if (!create(output, L"createOutput") || takeError(output.get())) return;
     if (!create(drawingSpecs, L"createDrawingSpecs")) return;
     if (!create(layerMng, L"createLayerManager") || takeError(layerMng.get())) return;

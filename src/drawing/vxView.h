@@ -1,39 +1,90 @@
-// A rectangle of the drawing that holds charts, sub-views and shapes in
-// script order. The root view covers the whole drawing.
+// A rectangle of the drawing that holds charts, tables, calendars,
+// sub-views and added shapes in script order. The root view covers the
+// drawing; OpenView nests further views, to a depth of 100.
 //
-// The view receives every script call that belongs to the layout, a chart or
-// an added shape through assign, which answers the view that is current from
-// then on (OpenView moves down, CloseView up). The run then calls, in order:
-//   1. setUp(bounds): every view and chart computes its layout;
-//   2. setUpLayers(layerMng): the objects are put into numbered layers;
-//   3. setUpCurveFittingData(data): fitted curves are collected.
+// The view receives every script call of the layout, the charts and the
+// added shapes through assign, which answers the view that is current from
+// then on: OpenView moves down, CloseView up. The run then calls, in order:
+//   1. setUp(bounds): the view's inner rectangle, then every object's
+//      layout within it;
+//   2. setUpLayers(layerMng): the view's layer with a clip one unit larger
+//      than the inner rectangle, its shapes in script order, the
+//      components' own layers;
+//   3. setUpCurveFittingData(data): the charts' fitted curves.
 #pragma once
 
+#include <memory>
 #include <ostream>
+#include <vector>
 
-#include "settings/vxErrorHolder.h"
+#include "graphics/vxGObjectOLD.h"
 
 namespace Velarix {
 
 class vxAssign;
+class vxChart;
+class vxLayer;
 class vxLayerManager;
 class vxCurveFittingData;
 
-class vxView : public vxErrorHolder {
+class vxView : public vxGObjectOLD {
 public:
-    vxView();
+    // The most objects one view holds.
+    static constexpr long kMaxObjects = 100000;
+    // The deepest sub-view level; the root has -1.
+    static constexpr short kMaxSubViewLevel = 99;
+
+    explicit vxView(vxUserSettings* owner, vxView* parent = nullptr, short subViewLevel = -1);
     ~vxView() override;
 
+    short getType() const override { return kTypeView; }
     virtual vxView* assign(vxAssign& assign);
     virtual void setUp(const float bounds[4]);
     virtual void setUpLayers(vxLayerManager* layerMng);
     virtual void setUpCurveFittingData(vxCurveFittingData* data);
-    virtual void dump(short depth, std::ostream& out) const;
 
-    const float* getBounds() const { return bounds; }
+    void setBounds(float left, float top, float right, float bottom);
+    const float* getViewBounds() const { return viewBounds; }
+    vxView* getParent() const { return parent; }
+    short getSubViewLevel() const { return subViewLevel; }
+    long getNumOfObjects() const { return static_cast<long>(objects.size()); }
+    vxGObjectOLD* getObject(long index) const;
+    long getChartIndex() const { return chartIndex; }
+    long getTableIndex() const { return tableIndex; }
+    long getCalendarIndex() const { return calendarIndex; }
+    // The rectangle the objects are laid out in.
+    void getInnerRect(const float bounds[4], float inner[4]) const;
+
+    void dump(short depth, std::ostream& out) const override;
+
+protected:
+    void transformGeometry(const vxTransform2DOLD& transform) override;
+    void calculateBounds(float bounds[4]) const override;
 
 private:
-    float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
+    vxView* assignLayout(vxAssign& assign);
+    vxView* assignTableOrCalendar(vxAssign& assign);
+    vxView* openView(vxAssign& assign);
+    void openChart(vxAssign& assign, bool fixedPlotArea, const float frame[4]);
+    void openComponent(short type, long& index);
+    void assignChart(vxAssign& assign);
+    void assignComponent(vxAssign& assign, long index);
+    bool isComponentOpen() const;
+    bool addObject(std::unique_ptr<vxGObjectOLD> object, const wchar_t* method);
+    void frameFromArguments(const vxAssign& assign, float frame[4]) const;
+
+    std::vector<float> x;
+    std::vector<float> y;
+    float viewAngle = 0.0f;
+    float viewXPivot = 0.0f;
+    float viewYPivot = 0.0f;
+    short subViewLevel;
+    long chartIndex = -1;
+    long tableIndex = -1;
+    long calendarIndex = -1;
+    float viewBounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
+    std::vector<std::unique_ptr<vxGObjectOLD>> objects;
+    vxView* parent;  // not owned; null for the root
 };
 
 }  // namespace Velarix

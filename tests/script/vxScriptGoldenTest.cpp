@@ -104,6 +104,9 @@ TEST(ScriptGolden, ValueErrors) {
 TEST(ScriptGolden, MessageLevels) {
     checkGoldenFile("message-levels.txt");
 }
+TEST(ScriptGolden, LayoutErrors) {
+    checkGoldenFile("layout-errors.txt");
+}
 
 }  // namespace
 }  // namespace Velarix::test

@@ -35,7 +35,7 @@ protected:
 
     vxUserSettings settings{L"", L"", 1, 1};
     vxDrawingSpecs specs;
-    vxView view;
+    vxView view{&settings};
     vxOutputWIN output;
     vxScript script{&settings, &specs, &view, &output};
 };
@@ -73,7 +73,7 @@ TEST_F(Reader, StringsQuotesAndEscapes) {
 
 TEST_F(Reader, EmptyArgumentsAndComments) {
     EXPECT_EQ(read(L"SaveAsPNGFile(\"a.png\";)").getNumOfArguments(), 2);
-    EXPECT_EQ(read(L"CloseView( /* nothing */ )").getNumOfArguments(), 0);
+    EXPECT_EQ(read(L"BackgroundOptions( /* nothing */ )").getNumOfArguments(), 0);
     const vxAssign& a = read(L"AddRect(1; /* the top */ 2; // the width\n 3;\n 4) // last line");
     EXPECT_FLOAT_EQ(a.getFloat(1), 2.0f);
     EXPECT_FLOAT_EQ(a.getFloat(3), 4.0f);
@@ -104,9 +104,9 @@ TEST_F(Reader, ChartValuesAndDates) {
     EXPECT_EQ(data.getString(1), L"2004-01-05&12:00 12/5/2004 NULL");
     EXPECT_EQ(data.getString(2), L"NULL");
     EXPECT_EQ(data.getString(3), L"45");
-    EXPECT_DOUBLE_EQ(read(L"LineChartOptions(24:00:00)").getDouble(0), 1.0);
-    EXPECT_DOUBLE_EQ(read(L"LineChartOptions(24'00)").getDouble(0), 1.0);
-    EXPECT_DOUBLE_EQ(read(L"LineChartOptions(0,25)").getDouble(0), 0.25);
+    EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(24:00:00)").getDouble(0), 1.0);
+    EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(24'00)").getDouble(0), 1.0);
+    EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(0,25)").getDouble(0), 0.25);
 }
 
 TEST_F(Reader, OpenDrawingSetsTheDrawingParameters) {

@@ -66,7 +66,9 @@ struct MessageCase {
     std::wstring expected;
 };
 
-void PrintTo(const MessageCase& c, std::ostream* out) { *out << c.name; }
+void PrintTo(const MessageCase& c, std::ostream* out) {
+    *out << c.name;
+}
 
 const std::wstring kWhere = L"Line 2: Function \"OpenChart\": Argument # 3: ";
 const std::wstring kWhereGerman = L"Zeile 2: Funktion \"OpenChart\": Argument  3: ";

@@ -1,0 +1,62 @@
+#include "drawing/vxLayer.h"
+
+#include "graphics/vxGObjectOLD.h"
+#include "host/vxLog.h"
+#include "output/vxDevice.h"
+
+namespace Velarix {
+
+vxLayer::vxLayer(long type, long subType, const float rect[4])
+    : vxErrorHolder(L"vxLayer"), typeID(type), subTypeID(subType) {
+    if (rect) setClipRect(rect);
+}
+
+vxLayer::~vxLayer() = default;
+
+void vxLayer::setClipRect(const float rect[4]) {
+    for (int i = 0; i < 4; ++i) clipRect[i] = rect[i];
+}
+
+bool vxLayer::addShape(std::unique_ptr<vxGObjectOLD> shape) {
+    if (!shape) return false;
+    try {
+        shapes.push_back(std::move(shape));
+        drawingIndices.push_back(static_cast<long>(shapes.size()) - 1);
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"addShape"));
+        return false;
+    }
+    return true;
+}
+
+vxGObjectOLD* vxLayer::getShape(long index) const {
+    if (index < 0 || index >= getNumOfShapes()) return nullptr;
+    return shapes[static_cast<size_t>(index)].get();
+}
+
+void vxLayer::draw(vxDevice& device) {
+    if (!visible) return;
+    device.setClipRegion(clipRect);
+    for (long index : drawingIndices) {
+        vxGObjectOLD* shape = getShape(index);
+        if (!shape) continue;
+        shape->draw(device);
+        if (shape->isError()) return copyError(shape->getError());
+    }
+}
+
+void vxLayer::dump(short depth, std::ostream& out) const {
+    if (depth <= 0) return;
+    vxDumpHeader(out, "vxLayer");
+    vxDumpLine(out, "bool  isVisible:    ", visible);
+    vxDumpLine(out, "bool  isLocked:     ", locked);
+    vxDumpLine(out, "long  typeID:       ", typeID);
+    vxDumpLine(out, "long  subTypeID:    ", subTypeID);
+    vxDumpLine(out, "float clipRect[4]:  ", clipRect[0], clipRect[1]);
+    vxDumpLine(out, "vector<long> drawingIndices:  ", drawingIndices);
+    vxDumpLine(out, "Num of shapes: ", getNumOfShapes());
+    for (const auto& shape : shapes) shape->dump(static_cast<short>(depth - 1), out);
+    vxDumpEnd(out);
+}
+
+}  // namespace Velarix
