@@ -8,6 +8,7 @@ packages=(
   clang libclang-rt-14-dev
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   clang-format
+  libfreetype-dev libfontconfig-dev fonts-dejavu-core fonts-liberation2
 )
 
 missing=()

@@ -25,7 +25,7 @@ vxDrawing::vxDrawing(vxUserSettings* settings)
     : vxErrorHolder(L"vxDrawing"), userSettings(settings) {
     if (isError()) return;
     if (!create(view, L"createView", userSettings) || takeError(view.get())) return;
-    if (!create(output, L"createOutput") || takeError(output.get())) return;
+    if (!create(output, L"createOutput", userSettings) || takeError(output.get())) return;
     if (!create(drawingSpecs, L"createDrawingSpecs")) return;
     if (!create(layerMng, L"createLayerManager") || takeError(layerMng.get())) return;
     if (!create(script, L"createScript", userSettings, drawingSpecs.get(), view.get(),

@@ -112,6 +112,16 @@ public:
     virtual long getNumOfStreams() const = 0;
     virtual const vxStreamRecord* getStream(long index) const = 0;
 
+    // Document metadata; a device whose format has no place for a field
+    // passes it over.
+    virtual void setTitle(const std::wstring& text) {}
+    virtual void setDescription(const std::wstring& text) {}
+    virtual void setComment(const std::wstring& text) {}
+    virtual void setAuthor(const std::wstring& text) {}
+    virtual void setSubject(const std::wstring& text) {}
+    virtual void setKeywords(const std::wstring& text) {}
+    virtual void setCreator(const std::wstring& text) {}
+
     virtual void setUp(const vxDrawingSpecs& specs);
     virtual float getWidth() const;
     virtual float getHeight() const;

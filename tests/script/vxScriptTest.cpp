@@ -72,7 +72,7 @@ TEST_F(Reader, StringsQuotesAndEscapes) {
 }
 
 TEST_F(Reader, EmptyArgumentsAndComments) {
-    EXPECT_EQ(read(L"SaveAsPNGFile(\"a.png\";)").getNumOfArguments(), 2);
+    EXPECT_EQ(read(L"SaveAsSVGFile(\"a.svg\";)").getNumOfArguments(), 2);
     EXPECT_EQ(read(L"BackgroundOptions( /* nothing */ )").getNumOfArguments(), 0);
     const vxAssign& a = read(L"AddRect(1; /* the top */ 2; // the width\n 3;\n 4) // last line");
     EXPECT_FLOAT_EQ(a.getFloat(1), 2.0f);

@@ -1,0 +1,211 @@
+// The SVG device: the drawing as one SVG 1.1 text document, built in memory
+// as a wide string and handed to every target when the device closes. It
+// needs no platform service.
+//
+// The document:
+//   1. open() writes the prolog: the XML declaration, the SVG 1.1 doctype,
+//      an empty line, the <svg> element with the drawing's width and height
+//      (no xmlns, no viewBox), then the title, description and comment when
+//      they are set, unescaped;
+//   2. every draw operation appends its elements, each element preceded by
+//      the definition of the gradient it uses; a definition is written anew
+//      for every use, under the next id of its counter (lg1, lg2, ... and
+//      rg1, rg2, ...);
+//   3. close() appends "</svg>" and an empty line and writes the document to
+//      each clipboard and file target; the first fault of a target is
+//      copied to the device and ends the writing.
+//
+// Every number goes through the locale-free general form of vxNumberWriter.
+// Line ends are single line feeds. Text is written as numeric character
+// references only, so the body of the document is ASCII whatever the
+// labels hold.
+//
+// SVG has no way to combine clips: every clip mode replaces the clip. A
+// clip is active from its definition up to resetClipRegion, and every
+// element written meanwhile refers to it. Patterns have no SVG form: a hatch
+// falls back to its colour at half opacity, and a texture fills with
+// nothing of its own. Shadows are hard-edged copies; text has none.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "output/vxDevice.h"
+
+namespace Velarix {
+
+class vxGradientPaint;
+class vxLinearGradient;
+class vxRadialGradient;
+class vxUserSettings;
+
+class vxDeviceSVG : public vxDevice {
+public:
+    explicit vxDeviceSVG(const vxUserSettings* settings = nullptr);
+    ~vxDeviceSVG() override;
+
+    short getDeviceID() const override { return kSVG; }
+    // Clipboard (1) and file (3) targets; other types make none.
+    void addTarget(short targetType) override;
+    long getNumOfTargets() const override;
+    vxWriteExternal* getLastTarget() const override;
+    void open() override;
+    void close() override;
+
+    // Written into the prolog by open(), so they are set before it.
+    void setTitle(const std::wstring& text) override { title = text; }
+    void setDescription(const std::wstring& text) override { description = text; }
+    void setComment(const std::wstring& text) override { comment = text; }
+    const std::wstring& getTitle() const { return title; }
+    const std::wstring& getDescription() const { return description; }
+    const std::wstring& getComment() const { return comment; }
+
+    // The document as far as it is written.
+    const std::wstring& getDocument() const { return document; }
+
+    using vxDevice::setClipRegion;
+    void resetClipRegion() override;
+    void setClipRegion(float x, float y, float w, float h, short mode) override;
+    // Does nothing: on SVG a clip comes only with a mode.
+    void setClipRegion(const float rect[4]) override {}
+    void setClipRegion(const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short mode) override;
+
+    void drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1, float y1,
+                    float x2, float y2) override;
+    void drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                    float x2, float y2) override;
+    void drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
+                         const vxPoints& y) override;
+    void drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
+                         const vxPoints& y) override;
+    void drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
+                       const vxPoints& y, const float bounds[4], bool doClose) override;
+    void drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
+                       const vxPoints& y, const float bounds[4], bool doClose) override;
+    void fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short windingRule) override;
+    void fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short windingRule) override;
+    void drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxVerbs& verbs,
+                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
+    void drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
+                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
+    void fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
+                    const vxPoints& y, const float bounds[4], short windingRule) override;
+    void fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
+                    const vxPoints& y, const float bounds[4], short windingRule) override;
+
+    using vxDevice::drawString2D;
+    // One <text> element per line of the text, lines split at carriage
+    // returns. The first baseline lies at the top of the bounds plus the
+    // font's line height minus its descent; each later line one line height
+    // lower. A rotation turns every line about the centre of the bounds.
+    void drawString2D(const std::wstring& text, const vxFontOLD& font, const vxPaintOLD& paint,
+                      const float bounds[4], short hAlignment, short vAlignment,
+                      float orientation) override;
+
+    // The shadow row takes the shadow's paint for the fill and `paint` for
+    // the outline, and moves the centre by the shadow's offsets.
+    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
+                    short symbolType, float size, float x, float y) override;
+    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
+                    short symbolType, float size, float x, float y) override;
+
+    void drawImage(const vxImage& image) override;
+
+    long getNumOfStreams() const override { return 0; }
+    const vxStreamRecord* getStream(long index) const override { return nullptr; }
+
+    void dump(short depth, std::ostream& out) const override;
+
+private:
+    // What a shadow row adds to every coordinate it prints.
+    struct Offset {
+        float dx = 0.0f;
+        float dy = 0.0f;
+    };
+    using Points = std::vector<float>;
+    static Offset offsetOf(const vxShadowOLD& shadow);
+
+    // Style strings (vxDeviceSVGStyle.cpp). Each part ends with "; " and
+    // each style with a blank after its closing quote.
+    std::wstring clipPart() const;
+    std::wstring fillPart(const vxPaintOLD& paint) const;
+    std::wstring textFillPart(const vxPaintOLD& paint) const;
+    std::wstring strokePaintPart(const vxPaintOLD& paint) const;
+    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint,
+                           bool isHatchHalfOpaque) const;
+    static std::wstring strokeParts(const vxStrokeOLD& stroke);
+    std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
+    std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;
+    std::wstring textStyle(const vxFontOLD& font, const vxPaintOLD& paint, short hAlignment) const;
+
+    // Gradient definitions (vxDeviceSVGStyle.cpp). The gradient a paint
+    // fills with, or null.
+    static const vxGradientPaint* gradientOf(const vxPaintOLD& paint);
+    // Writes the definition of the paint's gradient, if it has one, under
+    // the next id of its counter.
+    void writeDefinition(const vxPaintOLD& paint);
+    void writeLinearGradient(const vxLinearGradient& gradient);
+    void writeRadialGradient(const vxRadialGradient& gradient);
+    static std::wstring gradientTail(const vxGradientPaint& gradient);
+
+    // Elements (vxDeviceSVGShapes.cpp). The writers apply none of the
+    // common rules: the draw operations have done so.
+    void writeLine(const std::wstring& style, float x1, float y1, float x2, float y2, Offset at);
+    void writeLineArray(const std::wstring& style, const Points& x, const Points& y, Offset at);
+    void writePoints(const wchar_t* element, const std::wstring& style, const Points& x,
+                     const Points& y, Offset at);
+    void writePath(const std::wstring& style, const vxVerbs& verbs, const Points& x,
+                   const Points& y, Offset at);
+    void writeCircle(const std::wstring& style, float x, float y, float r);
+    // The data of a path element, without its quotes.
+    static std::wstring pathData(const vxVerbs& verbs, const Points& x, const Points& y, Offset at);
+
+    // One stroked element of each kind, with its definition, after the
+    // common rules.
+    void strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                    float x2, float y2, Offset at);
+    void strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                     const Points& y, Offset at);
+    void strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                       const Points& y, bool doClose, Offset at);
+    void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y, short windingRule,
+                     Offset at);
+    void strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
+                    const Points& x, const Points& y, Offset at);
+    void fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x, const Points& y,
+                  short windingRule, Offset at);
+
+    // Symbols (vxDeviceSVGShapes.cpp): a fill paint of null or none skips
+    // the fill, a stroke or paint that draws nothing skips the outline.
+    void writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                     const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y);
+    void writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
+                          float size, float x, float y);
+    bool writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                          const vxPaintOLD* fillPaint, short symbolType, float size, float x,
+                          float y);
+
+    // The text of one line as character references (vxDeviceSVGText.cpp).
+    static std::wstring characterReferences(const std::wstring& line);
+
+    void writeTargets();
+    bool writeTarget(vxWriteExternal& target);
+
+    const vxUserSettings* userSettings;  // not owned
+    std::vector<std::unique_ptr<vxWriteExternal>> targets;
+    std::wstring document;
+    std::wstring title;
+    std::wstring description;
+    std::wstring comment;
+    bool isClipActive = false;
+    long clipCounter = 0;
+    long linearGradientCounter = 0;
+    long radialGradientCounter = 0;
+};
+
+}  // namespace Velarix

@@ -1,0 +1,380 @@
+// The shapes of the SVG device: lines, polygons, paths and symbols, each
+// with its shadow row. A shadow row prints every coordinate moved by the
+// shadow's offsets and paints with the shadow's paint.
+#include <algorithm>
+#include <cmath>
+
+#include "graphics/vxPaintOLD.h"
+#include "graphics/vxShadowOLD.h"
+#include "graphics/vxStrokeOLD.h"
+#include "output/vxDeviceSVG.h"
+#include "output/vxNumberWriter.h"
+
+namespace Velarix {
+
+namespace {
+
+std::wstring num(double value) {
+    return vxNumberWriter::generalW(value);
+}
+
+std::wstring point(float x, float y) {
+    return num(x) + L" " + num(y) + L" ";
+}
+
+size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
+    return std::min(x.size(), y.size());
+}
+
+constexpr short kVerbClose = 1;
+constexpr short kVerbMove = 2;
+constexpr short kVerbLine = 3;
+constexpr short kVerbQuad = 4;
+constexpr short kVerbCubic = 5;
+
+// A line segment of a path goes straight up or across when it moves by
+// less than this in x or in y.
+constexpr double kStraight = 1e-10;
+
+// The points a verb takes from the point lists.
+size_t pointsOfVerb(short verb) {
+    switch (verb) {
+        case kVerbMove:
+        case kVerbLine:
+            return 1;
+        case kVerbQuad:
+            return 2;
+        case kVerbCubic:
+            return 3;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+// ---- element writers ------------------------------------------------------
+
+void vxDeviceSVG::writeLine(const std::wstring& style, float x1, float y1, float x2, float y2,
+                            Offset at) {
+    std::wstring s = L"<line x1=\"" + num(x1 + at.dx) + L"\" y1=\"" + num(y1 + at.dy) +
+                     L"\" x2=\"" + num(x2 + at.dx) + L"\" y2=\"" + num(y2 + at.dy) + L"\" \n";
+    s += L"\t" + style + L"/>\n\n";
+    document += s;
+}
+
+void vxDeviceSVG::writeLineArray(const std::wstring& style, const Points& x, const Points& y,
+                                 Offset at) {
+    const size_t count = numOfPoints(x, y);
+    std::wstring s = L"<g " + style + L">\n";
+    for (size_t i = 0; i + 1 < count; i += 2) {
+        s += L"\t<line x1=\"" + num(x[i] + at.dx) + L"\" y1=\"" + num(y[i] + at.dy) + L"\" x2=\"" +
+             num(x[i + 1] + at.dx) + L"\" y2=\"" + num(y[i + 1] + at.dy) + L"\" />\n";
+    }
+    s += L"</g>\n";
+    document += s;
+}
+
+void vxDeviceSVG::writePoints(const wchar_t* element, const std::wstring& style, const Points& x,
+                              const Points& y, Offset at) {
+    const size_t count = numOfPoints(x, y);
+    std::wstring s = std::wstring(L"<") + element + L"\n\tpoints=\"";
+    for (size_t i = 0; i < count; ++i) s += point(x[i] + at.dx, y[i] + at.dy);
+    s += L"\" \n\t" + style + L"/>\n\n";
+    document += s;
+}
+
+void vxDeviceSVG::writePath(const std::wstring& style, const vxVerbs& verbs, const Points& x,
+                            const Points& y, Offset at) {
+    document += L"<path\n\td=\"" + pathData(verbs, x, y, at) + L"\" \n\t" + style + L"/>\n\n";
+}
+
+void vxDeviceSVG::writeCircle(const std::wstring& style, float x, float y, float r) {
+    document += L"<circle\n\tcx=\"" + num(x) + L"\" cy=\"" + num(y) + L"\" r=\"" + num(r) +
+                L"\" \n\t" + style + L"/>\n\n";
+}
+
+// Each command and each coordinate is followed by a blank, but for the
+// close command. A line goes by V or H where it runs straight, judged on
+// the plain coordinates against the last point, which starts at 0, 0 and
+// after a close is the start of the closed subpath. A verb whose points
+// are missing ends the data.
+std::wstring vxDeviceSVG::pathData(const vxVerbs& verbs, const Points& x, const Points& y,
+                                   Offset at) {
+    const size_t count = numOfPoints(x, y);
+    std::wstring d;
+    size_t p = 0;
+    float lastX = 0.0f, lastY = 0.0f, startX = 0.0f, startY = 0.0f;
+    auto pointAt = [&](size_t i) { return point(x[i] + at.dx, y[i] + at.dy); };
+    for (short verb : verbs) {
+        const size_t needed = pointsOfVerb(verb);
+        if (p + needed > count) break;
+        switch (verb) {
+            case kVerbClose:
+                d += L"Z";
+                lastX = startX;
+                lastY = startY;
+                break;
+            case kVerbMove:
+                d += L"M " + pointAt(p);
+                startX = x[p];
+                startY = y[p];
+                break;
+            case kVerbLine:
+                if (std::fabs(static_cast<double>(x[p]) - lastX) < kStraight) {
+                    d += L"V " + num(y[p] + at.dy) + L" ";
+                } else if (std::fabs(static_cast<double>(y[p]) - lastY) < kStraight) {
+                    d += L"H " + num(x[p] + at.dx) + L" ";
+                } else {
+                    d += L"L " + pointAt(p);
+                }
+                break;
+            case kVerbQuad:
+                d += L"Q " + pointAt(p) + pointAt(p + 1);
+                break;
+            case kVerbCubic:
+                d += L"C " + pointAt(p) + pointAt(p + 1) + pointAt(p + 2);
+                break;
+            default:
+                break;
+        }
+        if (needed > 0) {
+            p += needed;
+            lastX = x[p - 1];
+            lastY = y[p - 1];
+        }
+    }
+    return d;
+}
+
+// ---- stroked and filled elements after the common rules -------------------
+
+void vxDeviceSVG::strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                             float x2, float y2, Offset at) {
+    if (drawsNothing(stroke) || drawsNothing(paint) || isDegenerateLine(x1, y1, x2, y2)) return;
+    writeDefinition(paint);
+    writeLine(strokeStyle(stroke, paint), x1, y1, x2, y2, at);
+}
+
+void vxDeviceSVG::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                              const Points& y, Offset at) {
+    if (drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) < 2) return;
+    writeDefinition(paint);
+    writeLineArray(strokeStyle(stroke, paint), x, y, at);
+}
+
+void vxDeviceSVG::strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                                const Points& y, bool doClose, Offset at) {
+    if (drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) == 0) return;
+    writeDefinition(paint);
+    writePoints(doClose ? L"polygon" : L"polyline", strokeStyle(stroke, paint), x, y, at);
+}
+
+void vxDeviceSVG::fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
+                              short windingRule, Offset at) {
+    if (drawsNothing(paint) || numOfPoints(x, y) == 0) return;
+    writeDefinition(paint);
+    writePoints(L"polygon", fillStyle(paint, windingRule), x, y, at);
+}
+
+void vxDeviceSVG::strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                             const vxVerbs& verbs, const Points& x, const Points& y, Offset at) {
+    if (drawsNothing(stroke) || drawsNothing(paint) || verbs.empty()) return;
+    writeDefinition(paint);
+    writePath(strokeStyle(stroke, paint), verbs, x, y, at);
+}
+
+void vxDeviceSVG::fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x,
+                           const Points& y, short windingRule, Offset at) {
+    if (drawsNothing(paint) || verbs.empty()) return;
+    writeDefinition(paint);
+    writePath(fillStyle(paint, windingRule), verbs, x, y, at);
+}
+
+// ---- the device's rows ----------------------------------------------------
+
+vxDeviceSVG::Offset vxDeviceSVG::offsetOf(const vxShadowOLD& shadow) {
+    return Offset{shadow.getXOffset(), shadow.getYOffset()};
+}
+
+void vxDeviceSVG::drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1,
+                             float y1, float x2, float y2) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokeLine(stroke, *paint, x1, y1, x2, y2, offsetOf(shadow));
+}
+
+void vxDeviceSVG::drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                             float x2, float y2) {
+    strokeLine(stroke, paint, x1, y1, x2, y2, Offset{});
+}
+
+void vxDeviceSVG::drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                                  const vxPoints& x, const vxPoints& y) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokeLines(stroke, *paint, x, y, offsetOf(shadow));
+}
+
+void vxDeviceSVG::drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                  const vxPoints& x, const vxPoints& y) {
+    strokeLines(stroke, paint, x, y, Offset{});
+}
+
+void vxDeviceSVG::drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                                const vxPoints& x, const vxPoints& y, const float bounds[4],
+                                bool doClose) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokePolygon(stroke, *paint, x, y, doClose, offsetOf(shadow));
+}
+
+void vxDeviceSVG::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                const vxPoints& x, const vxPoints& y, const float bounds[4],
+                                bool doClose) {
+    strokePolygon(stroke, paint, x, y, doClose, Offset{});
+}
+
+void vxDeviceSVG::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
+                                const float bounds[4], short windingRule) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        fillPolygon(*paint, x, y, windingRule, offsetOf(shadow));
+}
+
+void vxDeviceSVG::fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
+                                const float bounds[4], short windingRule) {
+    fillPolygon(paint, x, y, windingRule, Offset{});
+}
+
+void vxDeviceSVG::drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                             const float bounds[4]) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokePath(stroke, *paint, verbs, x, y, offsetOf(shadow));
+}
+
+void vxDeviceSVG::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                             const float bounds[4]) {
+    strokePath(stroke, paint, verbs, x, y, Offset{});
+}
+
+void vxDeviceSVG::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
+                             const vxPoints& y, const float bounds[4], short windingRule) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        fillPath(*paint, verbs, x, y, windingRule, offsetOf(shadow));
+}
+
+void vxDeviceSVG::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
+                             const vxPoints& y, const float bounds[4], short windingRule) {
+    fillPath(paint, verbs, x, y, windingRule, Offset{});
+}
+
+// ---- symbols --------------------------------------------------------------
+
+void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                             const vxShadowOLD& shadow, short symbolType, float size, float x,
+                             float y) {
+    writeSymbol(stroke, paint, shadow.getPaint(), symbolType, size, x + shadow.getXOffset(),
+                y + shadow.getYOffset());
+}
+
+void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                             const vxPaintOLD& fillPaint, short symbolType, float size, float x,
+                             float y) {
+    writeSymbol(stroke, paint, &fillPaint, symbolType, size, x, y);
+}
+
+void vxDeviceSVG::writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                              const vxPaintOLD* fillPaint, short symbolType, float size, float x,
+                              float y) {
+    if (writeSymbolShape(stroke, paint, fillPaint, symbolType, size, x, y)) return;
+    writeSymbolLines(stroke, paint, symbolType, size, x, y);
+}
+
+// The marks made of lines: cross, plus, bars and ticks. Other types draw
+// nothing here.
+void vxDeviceSVG::writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                   short symbolType, float size, float x, float y) {
+    const float l = x - size / 2.0f, r = l + size;
+    const float t = y - size / 2.0f, b = t + size;
+    const Offset none;
+    switch (symbolType) {
+        case 1:
+            strokeLine(stroke, paint, l, t, r, b, none);
+            strokeLine(stroke, paint, r, t, l, b, none);
+            break;
+        case 7:
+            strokeLine(stroke, paint, l, y, r, y, none);
+            strokeLine(stroke, paint, x, t, x, b, none);
+            break;
+        case 13:
+            strokeLine(stroke, paint, l, y, r, y, none);
+            break;
+        case 14:
+            strokeLine(stroke, paint, x, t, x, b, none);
+            break;
+        case 15:
+            strokeLine(stroke, paint, x - size, y, x, y, none);
+            break;
+        case 16:
+            strokeLine(stroke, paint, x, y, x + size, y, none);
+            break;
+        case 17:
+            strokeLine(stroke, paint, x, y - size, x, y, none);
+            break;
+        case 18:
+            strokeLine(stroke, paint, x, y, x, y + size, none);
+            break;
+        default:
+            break;
+    }
+}
+
+// Circles, squares, diamonds and triangles: types 2 to 6 filled and then
+// outlined, types 8 to 12 only outlined. False for any other type.
+bool vxDeviceSVG::writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                   const vxPaintOLD* fillPaint, short symbolType, float size,
+                                   float x, float y) {
+    const bool isFilled = symbolType >= 2 && symbolType <= 6;
+    const bool isOutline = symbolType >= 8 && symbolType <= 12;
+    if (!isFilled && !isOutline) return false;
+    const short shape = isFilled ? symbolType : static_cast<short>(symbolType - 6);
+    const float l = x - size / 2.0f, r = l + size;
+    const float t = y - size / 2.0f, b = t + size;
+    Points px, py;
+    switch (shape) {
+        case 3:  // square
+            px = {l, r, r, l}, py = {b, b, t, t};
+            break;
+        case 4:  // diamond
+            px = {x, r, x, l}, py = {t, y, b, y};
+            break;
+        case 5:  // triangle down
+            px = {l, r, x}, py = {t, t, b};
+            break;
+        case 6:  // triangle up
+            px = {x, r, l}, py = {t, b, b};
+            break;
+        default:  // circle
+            break;
+    }
+    const bool doFill = isFilled && fillPaint && !drawsNothing(*fillPaint);
+    const bool doOutline = !drawsNothing(stroke) && !drawsNothing(paint);
+    if (doFill) {
+        writeDefinition(*fillPaint);
+        const std::wstring style = fillStyle(*fillPaint, 1);
+        if (shape == 2)
+            writeCircle(style, x, y, size / 2.0f);
+        else
+            writePoints(L"polygon", style, px, py, Offset{});
+    }
+    if (doOutline) {
+        writeDefinition(paint);
+        const std::wstring style = strokeStyle(stroke, paint);
+        if (shape == 2)
+            writeCircle(style, x, y, size / 2.0f);
+        else
+            writePoints(L"polygon", style, px, py, Offset{});
+    }
+    return true;
+}
+
+}  // namespace Velarix

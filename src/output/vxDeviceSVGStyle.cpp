@@ -1,0 +1,218 @@
+// The style attributes of the SVG device and the gradient definitions that
+// they refer to.
+#include <cmath>
+
+#include "graphics/vxBasicPaint.h"
+#include "graphics/vxDashStyle.h"
+#include "graphics/vxFontOLD.h"
+#include "graphics/vxLinearGradient.h"
+#include "graphics/vxRadialGradient.h"
+#include "graphics/vxStrokeOLD.h"
+#include "output/vxDeviceSVG.h"
+#include "output/vxNumberWriter.h"
+
+namespace Velarix {
+
+namespace {
+
+std::wstring num(double value) {
+    return vxNumberWriter::generalW(value);
+}
+
+// SVG's own defaults, which need no attribute.
+constexpr float kDefaultWidth = 1.0f;
+constexpr float kDefaultMiterLimit = 4.0f;
+constexpr double kSameValue = 1e-10;
+
+constexpr short kAlignCenter = 2;
+constexpr short kAlignRight = 3;
+
+std::wstring dashPart(const vxDashStyle& dash) {
+    std::wstring s = L"stroke-dasharray: ";
+    const std::vector<float>& pattern = dash.getPattern();
+    for (size_t i = 0; i < pattern.size(); ++i) {
+        if (i > 0) s += L" ";
+        s += num(pattern[i]);
+    }
+    return s + L"; ";
+}
+
+std::wstring capPart(short cap) {
+    switch (cap) {
+        case vxStrokeOLD::kRoundCap:
+            return L"stroke-linecap: round; ";
+        case vxStrokeOLD::kSquareCap:
+            return L"stroke-linecap: square; ";
+        default:
+            return L"";
+    }
+}
+
+std::wstring joinPart(short join, float miterLimit) {
+    switch (join) {
+        case vxStrokeOLD::kMiterJoin:
+            if (std::fabs(miterLimit - kDefaultMiterLimit) > kSameValue) {
+                return L"stroke-miterlimit: " + num(miterLimit) + L"; ";
+            }
+            return L"";
+        case vxStrokeOLD::kRoundJoin:
+            return L"stroke-linejoin: round; ";
+        case vxStrokeOLD::kBevelJoin:
+            return L"stroke-linejoin: bevel; ";
+        default:
+            return L"";
+    }
+}
+
+const wchar_t* spreadName(short spread) {
+    switch (spread) {
+        case vxGradientPaint::kPad:
+            return L"spreadMethod=\"pad\"";
+        case vxGradientPaint::kRepeat:
+            return L"spreadMethod=\"repeat\"";
+        case vxGradientPaint::kReflect:
+            return L"spreadMethod=\"reflect\"";
+        default:
+            return L"";
+    }
+}
+
+}  // namespace
+
+std::wstring vxDeviceSVG::clipPart() const {
+    if (!isClipActive) return L"";
+    return L"clip-path: url(#clipPath" + std::to_wstring(clipCounter) + L"); ";
+}
+
+// A texture fills with nothing of its own; the gradients refer to their
+// definition, written just before the element under the current id.
+std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& paint,
+                                    bool isHatchHalfOpaque) const {
+    const std::wstring name = property;
+    if (const vxGradientPaint* gradient = gradientOf(paint)) {
+        if (gradient->getType() == vxPaintOLD::kLinearGradient) {
+            return name + L": url(#lg" + std::to_wstring(linearGradientCounter) + L"); ";
+        }
+        return name + L": url(#rg" + std::to_wstring(radialGradientCounter) + L"); ";
+    }
+    if (paint.getType() != vxPaintOLD::kBasic) return L"";
+    const auto& basic = static_cast<const vxBasicPaint&>(paint);
+    const vxColorOLD* color = basic.getColor();
+    if (!color) return L"";
+    std::wstring s = name + L": " + color->toHashText() + L"; ";
+    if (!color->isOpaque()) {
+        s += name + L"-opacity: " + num(color->getAlphaF()) + L"; ";
+    } else if (isHatchHalfOpaque && basic.hasHatch()) {
+        // A hatch has no SVG form: its colour at half opacity stands for it.
+        s += name + L"-opacity: 0.5; ";
+    }
+    return s;
+}
+
+std::wstring vxDeviceSVG::fillPart(const vxPaintOLD& paint) const {
+    return paintPart(L"fill", paint, true);
+}
+
+std::wstring vxDeviceSVG::textFillPart(const vxPaintOLD& paint) const {
+    return paintPart(L"fill", paint, false);
+}
+
+std::wstring vxDeviceSVG::strokePaintPart(const vxPaintOLD& paint) const {
+    return paintPart(L"stroke", paint, false);
+}
+
+// Width, dash, cap and join of a basic stroke, each left out where SVG's
+// default says the same; a dashed line never gets a cap. Other strokes
+// have no parts.
+std::wstring vxDeviceSVG::strokeParts(const vxStrokeOLD& stroke) {
+    if (stroke.getType() != vxStrokeOLD::kBasic) return L"";
+    std::wstring s;
+    const float width = stroke.getLineWidth();
+    if (std::fabs(width - kDefaultWidth) > kSameValue) s += L"stroke-width: " + num(width) + L"; ";
+    if (stroke.hasDashStyle()) {
+        s += dashPart(*stroke.getDashStyle());
+    } else {
+        s += capPart(stroke.getLineCap());
+    }
+    return s + joinPart(stroke.getLineJoin(), stroke.getMiterLimit());
+}
+
+std::wstring vxDeviceSVG::strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const {
+    return L"style=\"" + clipPart() + strokePaintPart(paint) + strokeParts(stroke) +
+           L"fill: none;\" ";
+}
+
+std::wstring vxDeviceSVG::fillStyle(const vxPaintOLD& paint, short windingRule) const {
+    const wchar_t* rule = windingRule == 1 ? L"fill-rule: evenodd; " : L"fill-rule: nonzero; ";
+    return L"style=\"" + clipPart() + fillPart(paint) + rule + L"\" ";
+}
+
+std::wstring vxDeviceSVG::textStyle(const vxFontOLD& font, const vxPaintOLD& paint,
+                                    short hAlignment) const {
+    std::wstring s = L"style=\"" + clipPart();
+    s += L"font-family: '" + font.getName() + L"'; ";
+    s += L"font-size: " + num(font.getSize()) + L"pt; ";
+    if (font.isBold()) s += L"font-weight: bold; ";
+    if (font.isItalic()) s += L"font-style: italic; ";
+    if (font.isUnderline()) s += L"text-decoration: underline; ";
+    if (hAlignment == kAlignCenter) s += L"text-anchor: middle; ";
+    if (hAlignment == kAlignRight) s += L"text-anchor: end; ";
+    return s + textFillPart(paint) + L"stroke: none;\" ";
+}
+
+// A texture whose picture is a gradient resource will answer that
+// gradient here once pictures are read; until then a texture has none.
+const vxGradientPaint* vxDeviceSVG::gradientOf(const vxPaintOLD& paint) {
+    switch (paint.getType()) {
+        case vxPaintOLD::kLinearGradient:
+        case vxPaintOLD::kRadialGradient:
+            return static_cast<const vxGradientPaint*>(&paint);
+        default:
+            return nullptr;
+    }
+}
+
+void vxDeviceSVG::writeDefinition(const vxPaintOLD& paint) {
+    const vxGradientPaint* gradient = gradientOf(paint);
+    if (!gradient) return;
+    if (gradient->getType() == vxPaintOLD::kLinearGradient) {
+        writeLinearGradient(static_cast<const vxLinearGradient&>(*gradient));
+    } else {
+        writeRadialGradient(static_cast<const vxRadialGradient&>(*gradient));
+    }
+}
+
+void vxDeviceSVG::writeLinearGradient(const vxLinearGradient& gradient) {
+    ++linearGradientCounter;
+    std::wstring s =
+        L"<defs>\n<linearGradient id=\"lg" + std::to_wstring(linearGradientCounter) + L"\"\n";
+    s += L"\tx1=\"" + num(gradient.getX1()) + L"\" y1=\"" + num(gradient.getY1()) + L"\" x2=\"" +
+         num(gradient.getX2()) + L"\" y2=\"" + num(gradient.getY2()) + L"\" \n";
+    s += gradientTail(gradient);
+    s += L"</linearGradient>\n</defs>\n";
+    document += s;
+}
+
+void vxDeviceSVG::writeRadialGradient(const vxRadialGradient& gradient) {
+    ++radialGradientCounter;
+    std::wstring s =
+        L"<defs>\n<radialGradient id=\"rg" + std::to_wstring(radialGradientCounter) + L"\"\n";
+    s += L"\tcx=\"" + num(gradient.getCX()) + L"\" cy=\"" + num(gradient.getCY()) + L"\" r=\"" +
+         num(gradient.getRadius()) + L"\" ";
+    s += L"fx=\"" + num(gradient.getFX()) + L"\" fy=\"" + num(gradient.getFY()) + L"\" \n";
+    s += gradientTail(gradient);
+    s += L"</radialGradient>\n</defs>\n";
+    document += s;
+}
+
+// The spread line and the stops; the alpha of a stop has no place here.
+std::wstring vxDeviceSVG::gradientTail(const vxGradientPaint& gradient) {
+    std::wstring s = L"\t" + std::wstring(spreadName(gradient.getSpread())) + L">\n";
+    for (long i = 0; i < gradient.getNumOfColors(); ++i) {
+        s += L"\t<stop offset=\"" + num(gradient.getOffset(i)) + L"\" style=\"stop-color: " +
+             gradient.getColor(i)->toHashText() + L"; \"/>\n";
+    }
+    return s;
+}
+
+}  // namespace Velarix

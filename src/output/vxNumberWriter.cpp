@@ -1,0 +1,74 @@
+#include "output/vxNumberWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace Velarix {
+
+namespace vxNumberWriter {
+
+namespace {
+
+// Enough for any double in either form with the precisions the devices use.
+using Buffer = std::array<char, 400>;
+
+// A text made of a minus sign, zeros and a point stands for zero and loses
+// its sign.
+bool isSignedZero(const char* first, const char* last) {
+    if (first == last || *first != '-') return false;
+    return std::all_of(first + 1, last, [](char c) { return c == '0' || c == '.'; });
+}
+
+std::string finish(const char* first, const char* last) {
+    if (isSignedZero(first, last)) ++first;
+    return std::string(first, last);
+}
+
+std::wstring widen(const std::string& text) {
+    return std::wstring(text.begin(), text.end());
+}
+
+}  // namespace
+
+std::string general(double value, int precision) {
+    if (!std::isfinite(value)) return "0";
+    precision = std::clamp(precision, 1, 17);
+    Buffer buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::general, precision);
+    if (result.ec != std::errc()) return "0";
+    return finish(buffer.data(), result.ptr);
+}
+
+std::string fixed(double value, int decimals) {
+    if (!std::isfinite(value)) return "0";
+    decimals = std::clamp(decimals, 0, 17);
+    Buffer buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::fixed, decimals);
+    if (result.ec != std::errc()) return "0";
+    return finish(buffer.data(), result.ptr);
+}
+
+std::wstring generalW(double value, int precision) {
+    return widen(general(value, precision));
+}
+
+std::wstring fixedW(double value, int decimals) {
+    return widen(fixed(value, decimals));
+}
+
+void append(std::wstring& out, double value) {
+    const std::string text = general(value);
+    out.append(text.begin(), text.end());
+}
+
+void append(std::string& out, double value) {
+    out += general(value);
+}
+
+}  // namespace vxNumberWriter
+
+}  // namespace Velarix

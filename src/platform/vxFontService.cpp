@@ -1,0 +1,205 @@
+#include "platform/vxFontService.h"
+
+#include <fontconfig/fontconfig.h>
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include "platform/vxTextCodec.h"
+
+namespace Velarix {
+
+namespace {
+
+std::wstring lowerAscii(const std::wstring& text) {
+    std::wstring result = text;
+    for (wchar_t& c : result) {
+        if (c >= L'A' && c <= L'Z') c = static_cast<wchar_t>(c - L'A' + L'a');
+    }
+    return result;
+}
+
+const FcChar8* fcText(const std::string& text) {
+    return reinterpret_cast<const FcChar8*>(text.c_str());
+}
+
+// A pattern for fontconfig with the configuration's and the default
+// substitutions applied, ready for matching.
+FcPattern* makePattern(FcConfig* config, const std::string& family, bool bold, bool italic) {
+    FcPattern* pattern = FcPatternCreate();
+    if (pattern == nullptr) return nullptr;
+    if (!family.empty()) FcPatternAddString(pattern, FC_FAMILY, fcText(family));
+    FcPatternAddInteger(pattern, FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
+    FcPatternAddInteger(pattern, FC_SLANT, italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
+    FcPatternAddBool(pattern, FC_SCALABLE, FcTrue);
+    FcConfigSubstitute(config, pattern, FcMatchPattern);
+    FcDefaultSubstitute(pattern);
+    return pattern;
+}
+
+}  // namespace
+
+vxFontService& vxFontService::get() {
+    static vxFontService service;
+    return service;
+}
+
+vxFontService::vxFontService() = default;
+
+vxFontService::~vxFontService() {
+    resolved.clear();
+    faces.clear();
+    if (library != nullptr) FT_Done_FreeType(library);
+    if (config != nullptr) FcConfigDestroy(config);
+}
+
+std::wstring vxFontService::platformName(const std::wstring& name) {
+    const std::wstring lower = lowerAscii(name);
+    if (lower == L"systemfont" || lower == L"applfont") return L"Arial";
+    return name;
+}
+
+void vxFontService::fail(int status, const std::wstring& text) {
+    lastStatus = status;
+    lastFailure = text;
+}
+
+bool vxFontService::start() {
+    if (started) return usable;
+    started = true;
+    FT_Library ftLibrary = nullptr;
+    if (FT_Init_FreeType(&ftLibrary) != 0) {
+        fail(vxFontStatus::kNoFreeType, L"FreeType could not start");
+        return false;
+    }
+    library = ftLibrary;
+    config = FcInitLoadConfigAndFonts();
+    if (config == nullptr) {
+        fail(vxFontStatus::kNoFontconfig, L"fontconfig could not load its configuration");
+        return false;
+    }
+    usable = true;
+    return true;
+}
+
+vxFontFace* vxFontService::findFace(const std::wstring& name, short style) {
+    const bool bold = (style & kBold) != 0;
+    const bool italic = (style & kItalic) != 0;
+    const std::wstring asked = platformName(name);
+    std::wstring key = lowerAscii(asked);
+    key += bold ? L"|b" : L"|";
+    key += italic ? L"i" : L"";
+    if (const auto found = resolved.find(key); found != resolved.end()) return found->second;
+
+    vxFontFace* face = start() ? matchFace(vxToUtf8(asked), bold, italic) : nullptr;
+    resolved[key] = face;
+    return face;
+}
+
+vxFontFace* vxFontService::matchFace(const std::string& family, bool bold, bool italic) {
+    fail(vxFontStatus::kOk, L"");
+    FcPattern* pattern = makePattern(config, family, bold, italic);
+    if (pattern == nullptr) {
+        fail(vxFontStatus::kNoMatch, L"fontconfig could not make a pattern");
+        return nullptr;
+    }
+    vxFontFace* face = nullptr;
+    FcResult result = FcResultNoMatch;
+    if (FcPattern* match = FcFontMatch(config, pattern, &result); match != nullptr) {
+        FcChar8* file = nullptr;
+        int index = 0;
+        FcBool embolden = FcFalse;
+        if (FcPatternGetString(match, FC_FILE, 0, &file) == FcResultMatch) {
+            FcPatternGetInteger(match, FC_INDEX, 0, &index);
+            FcPatternGetBool(match, FC_EMBOLDEN, 0, &embolden);
+            face = openFace(reinterpret_cast<const char*>(file), index, bold && embolden);
+        }
+        FcPatternDestroy(match);
+    }
+
+    // The best match couldn't be opened: take the next font in fontconfig's
+    // order of preference that can.
+    if (face == nullptr) {
+        if (FcFontSet* sorted = FcFontSort(config, pattern, FcTrue, nullptr, &result);
+            sorted != nullptr) {
+            for (int i = 0; i < sorted->nfont && face == nullptr; ++i) {
+                FcChar8* file = nullptr;
+                int index = 0;
+                int weight = FC_WEIGHT_REGULAR;
+                if (FcPatternGetString(sorted->fonts[i], FC_FILE, 0, &file) != FcResultMatch) {
+                    continue;
+                }
+                FcPatternGetInteger(sorted->fonts[i], FC_INDEX, 0, &index);
+                FcPatternGetInteger(sorted->fonts[i], FC_WEIGHT, 0, &weight);
+                face = openFace(reinterpret_cast<const char*>(file), index,
+                                bold && weight < FC_WEIGHT_DEMIBOLD);
+            }
+            FcFontSetDestroy(sorted);
+        }
+    }
+    FcPatternDestroy(pattern);
+    if (face == nullptr && lastStatus == vxFontStatus::kOk) {
+        fail(vxFontStatus::kNoMatch, L"no font found");
+    } else if (face != nullptr) {
+        fail(vxFontStatus::kOk, L"");
+    }
+    return face;
+}
+
+vxFontFace* vxFontService::openFace(const std::string& file, int index, bool syntheticBold) {
+    std::string key = file + "#" + std::to_string(index) + (syntheticBold ? "+bold" : "");
+    if (const auto found = faces.find(key); found != faces.end()) return found->second.get();
+    int status = vxFontStatus::kOk;
+    std::unique_ptr<vxFontFace> face =
+        vxFontFace::open(library, file, index, syntheticBold, status);
+    if (!face) {
+        fail(status, L"cannot open " + vxFromUtf8(file));
+        return nullptr;
+    }
+    vxFontFace* result = face.get();
+    faces.emplace(std::move(key), std::move(face));
+    return result;
+}
+
+bool vxFontService::isInstalled(const std::wstring& name) {
+    const std::wstring lower = lowerAscii(name);
+    if (lower == L"systemfont" || lower == L"applfont") return true;
+    if (name.empty()) return false;
+    if (const auto found = installed.find(lower); found != installed.end()) return found->second;
+
+    bool result = false;
+    if (start()) {
+        const std::string family = vxToUtf8(name);
+        if (FcPattern* pattern = makePattern(config, family, false, false); pattern != nullptr) {
+            FcResult status = FcResultNoMatch;
+            if (FcPattern* match = FcFontMatch(config, pattern, &status); match != nullptr) {
+                FcChar8* matched = nullptr;
+                for (int i = 0;
+                     !result && FcPatternGetString(match, FC_FAMILY, i, &matched) == FcResultMatch;
+                     ++i) {
+                    result = FcStrCmpIgnoreCase(matched, fcText(family)) == 0;
+                }
+                FcPatternDestroy(match);
+            }
+            FcPatternDestroy(pattern);
+        }
+    }
+    installed[lower] = result;
+    return result;
+}
+
+bool vxFontService::getMetrics(const std::wstring& name, short style, float size,
+                               vxFontMetrics& metrics) {
+    vxFontFace* face = findFace(name, style);
+    if (face == nullptr) return false;
+    metrics = face->getMetrics(size);
+    return true;
+}
+
+float vxFontService::getWidth(const std::wstring& name, short style, float size,
+                              const std::wstring& text) {
+    vxFontFace* face = findFace(name, style);
+    return face != nullptr ? face->getWidth(text, size) : 0.0f;
+}
+
+}  // namespace Velarix
