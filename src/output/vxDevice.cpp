@@ -17,7 +17,7 @@ void vxDevice::setClipRegion(const float rect[4], short mode) {
     setClipRegion(rect[0], rect[1], rect[2] - rect[0], rect[3] - rect[1], mode);
 }
 
-// The drawing's specification marks a bitmap with rendering code 1.
+// The drawing's rendering code 1 marks a bitmap.
 void vxDevice::setUp(const vxDrawingSpecs& specs) {
     width = specs.getWidth();
     height = specs.getHeight();
