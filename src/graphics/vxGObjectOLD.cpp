@@ -48,8 +48,7 @@ void vxGObjectOLD::shift(float delta, bool isHorizontal) {
 void vxGObjectOLD::shift(float dx, float dy) {
     vxTransform2DOLD t;
     t.translate(dx, dy);
-    transformGeometry(t);
-    invalidateBounds();
+    applyTransform(t);
 }
 
 void vxGObjectOLD::rotate(float angle) {
@@ -61,8 +60,7 @@ void vxGObjectOLD::rotate(float angle) {
 void vxGObjectOLD::rotate(float angle, float x, float y) {
     vxTransform2DOLD t;
     t.rotate(angle, x, y);
-    transformGeometry(t);
-    invalidateBounds();
+    applyTransform(t);
 }
 
 void vxGObjectOLD::flip(short mode) {
@@ -79,8 +77,7 @@ void vxGObjectOLD::flip(short mode, float x, float y) {
     t.translate(flipX ? -x : 0.0f, flipY ? -y : 0.0f);
     t.scale(flipX ? -1.0f : 1.0f, flipY ? -1.0f : 1.0f);
     t.translate(flipX ? x : 0.0f, flipY ? y : 0.0f);
-    transformGeometry(t);
-    invalidateBounds();
+    applyTransform(t);
 }
 
 const float* vxGObjectOLD::bounds() {
@@ -129,26 +126,24 @@ void vxGObjectOLD::setTop(float top) {
     shift(0.0f, top - getTop());
 }
 
-void vxGObjectOLD::setWidth(float width) {
-    const float old = getWidth();
+void vxGObjectOLD::setWidth(float width) { scaleExtent(true, width); }
+
+void vxGObjectOLD::setHeight(float height) { scaleExtent(false, height); }
+
+// Scales about the left or top edge so that the extent becomes `extent`.
+void vxGObjectOLD::scaleExtent(bool horizontal, float extent) {
+    const float old = horizontal ? getWidth() : getHeight();
     if (old < 0.0001f) return;
-    const float left = getLeft();
+    const float origin = horizontal ? getLeft() : getTop();
+    const float factor = extent / old;
     vxTransform2DOLD t;
-    t.translate(-left, 0.0f);
-    t.scale(width / old, 1.0f);
-    t.translate(left, 0.0f);
-    transformGeometry(t);
-    invalidateBounds();
+    t.translate(horizontal ? -origin : 0.0f, horizontal ? 0.0f : -origin);
+    t.scale(horizontal ? factor : 1.0f, horizontal ? 1.0f : factor);
+    t.translate(horizontal ? origin : 0.0f, horizontal ? 0.0f : origin);
+    applyTransform(t);
 }
 
-void vxGObjectOLD::setHeight(float height) {
-    const float old = getHeight();
-    if (old < 0.0001f) return;
-    const float top = getTop();
-    vxTransform2DOLD t;
-    t.translate(0.0f, -top);
-    t.scale(1.0f, height / old);
-    t.translate(0.0f, top);
+void vxGObjectOLD::applyTransform(const vxTransform2DOLD& t) {
     transformGeometry(t);
     invalidateBounds();
 }
