@@ -20,5 +20,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::ostringstream out;
     std::ostringstream err;
     Velarix::vxRunCommand(options, in, out, err);
+    // Files the script wrote are removed, so that every run starts alike.
+    std::error_code ignored;
+    for (const auto& entry : std::filesystem::directory_iterator(base, ignored)) {
+        std::filesystem::remove_all(entry.path(), ignored);
+    }
     return 0;
 }
