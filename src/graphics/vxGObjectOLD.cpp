@@ -126,9 +126,13 @@ void vxGObjectOLD::setTop(float top) {
     shift(0.0f, top - getTop());
 }
 
-void vxGObjectOLD::setWidth(float width) { scaleExtent(true, width); }
+void vxGObjectOLD::setWidth(float width) {
+    scaleExtent(true, width);
+}
 
-void vxGObjectOLD::setHeight(float height) { scaleExtent(false, height); }
+void vxGObjectOLD::setHeight(float height) {
+    scaleExtent(false, height);
+}
 
 // Scales about the left or top edge so that the extent becomes `extent`.
 void vxGObjectOLD::scaleExtent(bool horizontal, float extent) {

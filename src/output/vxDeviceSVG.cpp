@@ -8,14 +8,6 @@
 
 namespace Velarix {
 
-namespace {
-
-std::wstring num(double value) {
-    return vxNumberWriter::generalW(value);
-}
-
-}  // namespace
-
 vxDeviceSVG::vxDeviceSVG(const vxUserSettings* settings)
     : vxDevice(L"vxDeviceSVG"), userSettings(settings) {}
 
@@ -54,7 +46,8 @@ void vxDeviceSVG::open() {
     document += L"<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\"\n";
     document += L"\t\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n";
     document += L"\n";
-    document += L"<svg width=\"" + num(getWidth()) + L"\" height=\"" + num(getHeight()) + L"\">\n";
+    document += L"<svg width=\"" + vxNumberWriter::generalW(getWidth()) + L"\" height=\"" +
+                vxNumberWriter::generalW(getHeight()) + L"\">\n";
     if (!title.empty()) document += L"<title>" + title + L"</title>\n";
     if (!description.empty()) document += L"<desc>" + description + L"</desc>\n";
     if (!comment.empty()) document += L"<!-- " + comment + L" -->\n";
@@ -97,8 +90,9 @@ void vxDeviceSVG::setClipRegion(float x, float y, float w, float h, short mode) 
     ++clipCounter;
     std::wstring s = L"<defs>\n<clipPath id=\"clipPath" + std::to_wstring(clipCounter) + L"\">\n";
     s += L"\t<rect id=\"rect1\"\n";
-    s += L"\t\tx=\"" + num(x) + L"\" y=\"" + num(y) + L"\" width=\"" + num(w) + L"\" height=\"" +
-         num(h) + L"\"/>\n";
+    s += L"\t\tx=\"" + vxNumberWriter::generalW(x) + L"\" y=\"" + vxNumberWriter::generalW(y) +
+         L"\" width=\"" + vxNumberWriter::generalW(w) + L"\" height=\"" +
+         vxNumberWriter::generalW(h) + L"\"/>\n";
     s += L"</clipPath>\n</defs>\n";
     document += s;
     isClipActive = true;

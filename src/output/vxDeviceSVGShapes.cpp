@@ -14,12 +14,8 @@ namespace Velarix {
 
 namespace {
 
-std::wstring num(double value) {
-    return vxNumberWriter::generalW(value);
-}
-
 std::wstring point(float x, float y) {
-    return num(x) + L" " + num(y) + L" ";
+    return vxNumberWriter::generalW(x) + L" " + vxNumberWriter::generalW(y) + L" ";
 }
 
 size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
@@ -57,8 +53,10 @@ size_t pointsOfVerb(short verb) {
 
 void vxDeviceSVG::writeLine(const std::wstring& style, float x1, float y1, float x2, float y2,
                             Offset at) {
-    std::wstring s = L"<line x1=\"" + num(x1 + at.dx) + L"\" y1=\"" + num(y1 + at.dy) +
-                     L"\" x2=\"" + num(x2 + at.dx) + L"\" y2=\"" + num(y2 + at.dy) + L"\" \n";
+    std::wstring s = L"<line x1=\"" + vxNumberWriter::generalW(x1 + at.dx) + L"\" y1=\"" +
+                     vxNumberWriter::generalW(y1 + at.dy) + L"\" x2=\"" +
+                     vxNumberWriter::generalW(x2 + at.dx) + L"\" y2=\"" +
+                     vxNumberWriter::generalW(y2 + at.dy) + L"\" \n";
     s += L"\t" + style + L"/>\n\n";
     document += s;
 }
@@ -68,8 +66,10 @@ void vxDeviceSVG::writeLineArray(const std::wstring& style, const Points& x, con
     const size_t count = numOfPoints(x, y);
     std::wstring s = L"<g " + style + L">\n";
     for (size_t i = 0; i + 1 < count; i += 2) {
-        s += L"\t<line x1=\"" + num(x[i] + at.dx) + L"\" y1=\"" + num(y[i] + at.dy) + L"\" x2=\"" +
-             num(x[i + 1] + at.dx) + L"\" y2=\"" + num(y[i + 1] + at.dy) + L"\" />\n";
+        s += L"\t<line x1=\"" + vxNumberWriter::generalW(x[i] + at.dx) + L"\" y1=\"" +
+             vxNumberWriter::generalW(y[i] + at.dy) + L"\" x2=\"" +
+             vxNumberWriter::generalW(x[i + 1] + at.dx) + L"\" y2=\"" +
+             vxNumberWriter::generalW(y[i + 1] + at.dy) + L"\" />\n";
     }
     s += L"</g>\n";
     document += s;
@@ -90,7 +90,8 @@ void vxDeviceSVG::writePath(const std::wstring& style, const vxVerbs& verbs, con
 }
 
 void vxDeviceSVG::writeCircle(const std::wstring& style, float x, float y, float r) {
-    document += L"<circle\n\tcx=\"" + num(x) + L"\" cy=\"" + num(y) + L"\" r=\"" + num(r) +
+    document += L"<circle\n\tcx=\"" + vxNumberWriter::generalW(x) + L"\" cy=\"" +
+                vxNumberWriter::generalW(y) + L"\" r=\"" + vxNumberWriter::generalW(r) +
                 L"\" \n\t" + style + L"/>\n\n";
 }
 
@@ -122,9 +123,9 @@ std::wstring vxDeviceSVG::pathData(const vxVerbs& verbs, const Points& x, const 
                 break;
             case kVerbLine:
                 if (std::fabs(static_cast<double>(x[p]) - lastX) < kStraight) {
-                    d += L"V " + num(y[p] + at.dy) + L" ";
+                    d += L"V " + vxNumberWriter::generalW(y[p] + at.dy) + L" ";
                 } else if (std::fabs(static_cast<double>(y[p]) - lastY) < kStraight) {
-                    d += L"H " + num(x[p] + at.dx) + L" ";
+                    d += L"H " + vxNumberWriter::generalW(x[p] + at.dx) + L" ";
                 } else {
                     d += L"L " + pointAt(p);
                 }

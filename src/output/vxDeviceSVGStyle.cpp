@@ -15,10 +15,6 @@ namespace Velarix {
 
 namespace {
 
-std::wstring num(double value) {
-    return vxNumberWriter::generalW(value);
-}
-
 // SVG's own defaults, which need no attribute.
 constexpr float kDefaultWidth = 1.0f;
 constexpr float kDefaultMiterLimit = 4.0f;
@@ -32,7 +28,7 @@ std::wstring dashPart(const vxDashStyle& dash) {
     const std::vector<float>& pattern = dash.getPattern();
     for (size_t i = 0; i < pattern.size(); ++i) {
         if (i > 0) s += L" ";
-        s += num(pattern[i]);
+        s += vxNumberWriter::generalW(pattern[i]);
     }
     return s + L"; ";
 }
@@ -52,7 +48,7 @@ std::wstring joinPart(short join, float miterLimit) {
     switch (join) {
         case vxStrokeOLD::kMiterJoin:
             if (std::fabs(miterLimit - kDefaultMiterLimit) > kSameValue) {
-                return L"stroke-miterlimit: " + num(miterLimit) + L"; ";
+                return L"stroke-miterlimit: " + vxNumberWriter::generalW(miterLimit) + L"; ";
             }
             return L"";
         case vxStrokeOLD::kRoundJoin:
@@ -101,7 +97,7 @@ std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& p
     if (!color) return L"";
     std::wstring s = name + L": " + color->toHashText() + L"; ";
     if (!color->isOpaque()) {
-        s += name + L"-opacity: " + num(color->getAlphaF()) + L"; ";
+        s += name + L"-opacity: " + vxNumberWriter::generalW(color->getAlphaF()) + L"; ";
     } else if (isHatchHalfOpaque && basic.hasHatch()) {
         // A hatch has no SVG form: its colour at half opacity stands for it.
         s += name + L"-opacity: 0.5; ";
@@ -128,7 +124,8 @@ std::wstring vxDeviceSVG::strokeParts(const vxStrokeOLD& stroke) {
     if (stroke.getType() != vxStrokeOLD::kBasic) return L"";
     std::wstring s;
     const float width = stroke.getLineWidth();
-    if (std::fabs(width - kDefaultWidth) > kSameValue) s += L"stroke-width: " + num(width) + L"; ";
+    if (std::fabs(width - kDefaultWidth) > kSameValue)
+        s += L"stroke-width: " + vxNumberWriter::generalW(width) + L"; ";
     if (stroke.hasDashStyle()) {
         s += dashPart(*stroke.getDashStyle());
     } else {
@@ -151,7 +148,7 @@ std::wstring vxDeviceSVG::textStyle(const vxFontOLD& font, const vxPaintOLD& pai
                                     short hAlignment) const {
     std::wstring s = L"style=\"" + clipPart();
     s += L"font-family: '" + font.getName() + L"'; ";
-    s += L"font-size: " + num(font.getSize()) + L"pt; ";
+    s += L"font-size: " + vxNumberWriter::generalW(font.getSize()) + L"pt; ";
     if (font.isBold()) s += L"font-weight: bold; ";
     if (font.isItalic()) s += L"font-style: italic; ";
     if (font.isUnderline()) s += L"text-decoration: underline; ";
@@ -186,8 +183,10 @@ void vxDeviceSVG::writeLinearGradient(const vxLinearGradient& gradient) {
     ++linearGradientCounter;
     std::wstring s =
         L"<defs>\n<linearGradient id=\"lg" + std::to_wstring(linearGradientCounter) + L"\"\n";
-    s += L"\tx1=\"" + num(gradient.getX1()) + L"\" y1=\"" + num(gradient.getY1()) + L"\" x2=\"" +
-         num(gradient.getX2()) + L"\" y2=\"" + num(gradient.getY2()) + L"\" \n";
+    s += L"\tx1=\"" + vxNumberWriter::generalW(gradient.getX1()) + L"\" y1=\"" +
+         vxNumberWriter::generalW(gradient.getY1()) + L"\" x2=\"" +
+         vxNumberWriter::generalW(gradient.getX2()) + L"\" y2=\"" +
+         vxNumberWriter::generalW(gradient.getY2()) + L"\" \n";
     s += gradientTail(gradient);
     s += L"</linearGradient>\n</defs>\n";
     document += s;
@@ -197,9 +196,11 @@ void vxDeviceSVG::writeRadialGradient(const vxRadialGradient& gradient) {
     ++radialGradientCounter;
     std::wstring s =
         L"<defs>\n<radialGradient id=\"rg" + std::to_wstring(radialGradientCounter) + L"\"\n";
-    s += L"\tcx=\"" + num(gradient.getCX()) + L"\" cy=\"" + num(gradient.getCY()) + L"\" r=\"" +
-         num(gradient.getRadius()) + L"\" ";
-    s += L"fx=\"" + num(gradient.getFX()) + L"\" fy=\"" + num(gradient.getFY()) + L"\" \n";
+    s += L"\tcx=\"" + vxNumberWriter::generalW(gradient.getCX()) + L"\" cy=\"" +
+         vxNumberWriter::generalW(gradient.getCY()) + L"\" r=\"" +
+         vxNumberWriter::generalW(gradient.getRadius()) + L"\" ";
+    s += L"fx=\"" + vxNumberWriter::generalW(gradient.getFX()) + L"\" fy=\"" +
+         vxNumberWriter::generalW(gradient.getFY()) + L"\" \n";
     s += gradientTail(gradient);
     s += L"</radialGradient>\n</defs>\n";
     document += s;
@@ -209,8 +210,8 @@ void vxDeviceSVG::writeRadialGradient(const vxRadialGradient& gradient) {
 std::wstring vxDeviceSVG::gradientTail(const vxGradientPaint& gradient) {
     std::wstring s = L"\t" + std::wstring(spreadName(gradient.getSpread())) + L">\n";
     for (long i = 0; i < gradient.getNumOfColors(); ++i) {
-        s += L"\t<stop offset=\"" + num(gradient.getOffset(i)) + L"\" style=\"stop-color: " +
-             gradient.getColor(i)->toHashText() + L"; \"/>\n";
+        s += L"\t<stop offset=\"" + vxNumberWriter::generalW(gradient.getOffset(i)) +
+             L"\" style=\"stop-color: " + gradient.getColor(i)->toHashText() + L"; \"/>\n";
     }
     return s;
 }

@@ -13,10 +13,6 @@ namespace Velarix {
 
 namespace {
 
-std::wstring num(double value) {
-    return vxNumberWriter::generalW(value);
-}
-
 constexpr wchar_t kLineBreak = 13;
 constexpr double kDegreesPerRadian = 57.29578;
 
@@ -68,17 +64,19 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
     writeDefinition(paint);
     std::wstring rotation;
     if (isAngle(orientation)) {
-        rotation = L"transform=\"rotate(" + num(orientation * kDegreesPerRadian) + L"," +
-                   num((bounds[0] + bounds[2]) / 2.0f) + L"," +
-                   num((bounds[1] + bounds[3]) / 2.0f) + L")\" ";
+        rotation = L"transform=\"rotate(" +
+                   vxNumberWriter::generalW(orientation * kDegreesPerRadian) + L"," +
+                   vxNumberWriter::generalW((bounds[0] + bounds[2]) / 2.0f) + L"," +
+                   vxNumberWriter::generalW((bounds[1] + bounds[3]) / 2.0f) + L")\" ";
     }
     const std::wstring style = textStyle(font, paint, hAlignment);
-    const std::wstring x = num(anchorX(bounds, hAlignment));
+    const std::wstring x = vxNumberWriter::generalW(anchorX(bounds, hAlignment));
     const float lineHeight = font.getLineHeight();
     float baseline = bounds[1] + lineHeight - font.getDescent();
     std::wstring s;
     for (const std::wstring& line : splitLines(text)) {
-        s += L"<text x=\"" + x + L"\" y=\"" + num(baseline) + L"\" " + rotation + L"\n";
+        s += L"<text x=\"" + x + L"\" y=\"" + vxNumberWriter::generalW(baseline) + L"\" " +
+             rotation + L"\n";
         s += style + L">\n";
         s += characterReferences(line) + L"\n";
         s += L"</text>\n";
