@@ -9,6 +9,8 @@ packages=(
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   clang-format
   libfreetype-dev libfontconfig-dev fonts-dejavu-core fonts-liberation2
+  libcairo2-dev libpng-dev libjpeg62-turbo-dev libgif-dev libtiff-dev libimagequant-dev
+  zlib1g-dev
 )
 
 missing=()

@@ -53,6 +53,8 @@ public:
     vxFontFace(const vxFontFace&) = delete;
     vxFontFace& operator=(const vxFontFace&) = delete;
 
+    // The FreeType face itself, for drawing with the face that measured.
+    FT_FaceRec_* getFTFace() const { return face; }
     const std::string& getFile() const { return file; }
     int getFaceIndex() const { return faceIndex; }
     const std::string& getFamilyName() const { return familyName; }
