@@ -107,8 +107,11 @@ public:
                       const float bounds[4], short hAlignment, short vAlignment,
                       float orientation) override;
 
-    // The shadow row takes the shadow's paint for the fill and `paint` for
-    // the outline, and moves the centre by the shadow's offsets.
+    // The shapes of the symbol types, the fill before the outline. The
+    // shadow row takes the shadow's paint for the fill and `paint` (the
+    // caller gives the shadow's, or a none paint for no outline) for the
+    // outline, and moves every coordinate by the shadow's offsets as it is
+    // written. A size not above 0 draws nothing.
     void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
                     short symbolType, float size, float x, float y) override;
     void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
@@ -183,12 +186,13 @@ private:
     // Symbols (vxDeviceSVGShapes.cpp): a fill paint of null or none skips
     // the fill, a stroke or paint that draws nothing skips the outline.
     void writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                     const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y);
+                     const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
+                     Offset at);
     void writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
-                          float size, float x, float y);
+                          float size, float x, float y, Offset at);
     bool writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                           const vxPaintOLD* fillPaint, short symbolType, float size, float x,
-                          float y);
+                          float y, Offset at);
 
     // The text of one line as character references (vxDeviceSVGText.cpp).
     static std::wstring characterReferences(const std::wstring& line);

@@ -273,56 +273,57 @@ void vxDeviceSVG::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, cons
 void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                              const vxShadowOLD& shadow, short symbolType, float size, float x,
                              float y) {
-    writeSymbol(stroke, paint, shadow.getPaint(), symbolType, size, x + shadow.getXOffset(),
-                y + shadow.getYOffset());
+    writeSymbol(stroke, paint, shadow.getPaint(), symbolType, size, x, y, offsetOf(shadow));
 }
 
 void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                              const vxPaintOLD& fillPaint, short symbolType, float size, float x,
                              float y) {
-    writeSymbol(stroke, paint, &fillPaint, symbolType, size, x, y);
+    writeSymbol(stroke, paint, &fillPaint, symbolType, size, x, y, Offset{});
 }
 
+// A mark without extent draws nothing, and neither does a negative size,
+// which would turn the shapes inside out and give a circle no valid radius.
 void vxDeviceSVG::writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                               const vxPaintOLD* fillPaint, short symbolType, float size, float x,
-                              float y) {
-    if (writeSymbolShape(stroke, paint, fillPaint, symbolType, size, x, y)) return;
-    writeSymbolLines(stroke, paint, symbolType, size, x, y);
+                              float y, Offset at) {
+    if (!(size > 0.0f)) return;
+    if (writeSymbolShape(stroke, paint, fillPaint, symbolType, size, x, y, at)) return;
+    writeSymbolLines(stroke, paint, symbolType, size, x, y, at);
 }
 
 // The marks made of lines: cross, plus, bars and ticks. Other types draw
 // nothing here.
 void vxDeviceSVG::writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                   short symbolType, float size, float x, float y) {
+                                   short symbolType, float size, float x, float y, Offset at) {
     const float l = x - size / 2.0f, r = l + size;
     const float t = y - size / 2.0f, b = t + size;
-    const Offset none;
     switch (symbolType) {
         case 1:
-            strokeLine(stroke, paint, l, t, r, b, none);
-            strokeLine(stroke, paint, r, t, l, b, none);
+            strokeLine(stroke, paint, l, t, r, b, at);
+            strokeLine(stroke, paint, r, t, l, b, at);
             break;
         case 7:
-            strokeLine(stroke, paint, l, y, r, y, none);
-            strokeLine(stroke, paint, x, t, x, b, none);
+            strokeLine(stroke, paint, l, y, r, y, at);
+            strokeLine(stroke, paint, x, t, x, b, at);
             break;
         case 13:
-            strokeLine(stroke, paint, l, y, r, y, none);
+            strokeLine(stroke, paint, l, y, r, y, at);
             break;
         case 14:
-            strokeLine(stroke, paint, x, t, x, b, none);
+            strokeLine(stroke, paint, x, t, x, b, at);
             break;
         case 15:
-            strokeLine(stroke, paint, x - size, y, x, y, none);
+            strokeLine(stroke, paint, x - size, y, x, y, at);
             break;
         case 16:
-            strokeLine(stroke, paint, x, y, x + size, y, none);
+            strokeLine(stroke, paint, x, y, x + size, y, at);
             break;
         case 17:
-            strokeLine(stroke, paint, x, y - size, x, y, none);
+            strokeLine(stroke, paint, x, y - size, x, y, at);
             break;
         case 18:
-            strokeLine(stroke, paint, x, y, x, y + size, none);
+            strokeLine(stroke, paint, x, y, x, y + size, at);
             break;
         default:
             break;
@@ -333,7 +334,7 @@ void vxDeviceSVG::writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& 
 // outlined, types 8 to 12 only outlined. False for any other type.
 bool vxDeviceSVG::writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                                    const vxPaintOLD* fillPaint, short symbolType, float size,
-                                   float x, float y) {
+                                   float x, float y, Offset at) {
     const bool isFilled = symbolType >= 2 && symbolType <= 6;
     const bool isOutline = symbolType >= 8 && symbolType <= 12;
     if (!isFilled && !isOutline) return false;
@@ -357,23 +358,19 @@ bool vxDeviceSVG::writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& 
         default:  // circle
             break;
     }
-    const bool doFill = isFilled && fillPaint && !drawsNothing(*fillPaint);
-    const bool doOutline = !drawsNothing(stroke) && !drawsNothing(paint);
-    if (doFill) {
+    auto write = [&](const std::wstring& style) {
+        if (shape == 2)
+            writeCircle(style, x + at.dx, y + at.dy, size / 2.0f);
+        else
+            writePoints(L"polygon", style, px, py, at);
+    };
+    if (isFilled && fillPaint && !drawsNothing(*fillPaint)) {
         writeDefinition(*fillPaint);
-        const std::wstring style = fillStyle(*fillPaint, 1);
-        if (shape == 2)
-            writeCircle(style, x, y, size / 2.0f);
-        else
-            writePoints(L"polygon", style, px, py, Offset{});
+        write(fillStyle(*fillPaint, 1));
     }
-    if (doOutline) {
+    if (!drawsNothing(stroke) && !drawsNothing(paint)) {
         writeDefinition(paint);
-        const std::wstring style = strokeStyle(stroke, paint);
-        if (shape == 2)
-            writeCircle(style, x, y, size / 2.0f);
-        else
-            writePoints(L"polygon", style, px, py, Offset{});
+        write(strokeStyle(stroke, paint));
     }
     return true;
 }
