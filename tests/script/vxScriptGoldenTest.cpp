@@ -69,8 +69,11 @@ std::vector<GoldenCase> readGolden(const std::string& path) {
 
 std::string actualText(const GoldenCase& c, std::vector<std::string>& failures) {
     std::string text = "## " + c.name + "\n" + c.script;
+    // Files the scripts write go to a folder of their own.
+    const std::string folder = makeTempFolder("golden-scripts");
     for (const Expectation& e : c.expectations) {
-        RunResult r = runVelarix(c.script, {"--lang", e.lang, "--flags", e.flags});
+        RunResult r =
+            runVelarix(c.script, {"--base", folder, "--lang", e.lang, "--flags", e.flags});
         text +=
             "--> " + e.lang + " " + e.flags + " exit " + std::to_string(r.status) + "\n" + r.err;
         if (r.status != e.status || r.err != e.err) {
