@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "platform/vxFontService.h"
 
@@ -122,6 +124,45 @@ TEST(vxFontService, Utf16TextIsMeasuredByCodePoint) {
                     2.0f * replacement);
     // Control characters, line ends among them, take no room.
     EXPECT_FLOAT_EQ(face->getWidth(L"ab\r\ncd\t", size), face->getWidth(L"abcd", size));
+}
+
+TEST(vxFontService, FittingLengthsAgreeWithTheWidths) {
+    vxFontFace* face = requireFace(L"DejaVu Sans");
+    ASSERT_NE(face, nullptr);
+    const std::wstring pair{wchar_t(0xD83D), wchar_t(0xDE00)};
+    const std::wstring text = L"Fit " + pair + L" in";
+    const float whole = face->getWidth(text, 10.0f);
+    for (float limit = -1.0f; limit <= whole + 1.0f; limit += 0.25f) {
+        SCOPED_TRACE(testing::Message() << "limit " << limit);
+        const std::size_t head = face->getFittingLength(text, 10.0f, limit);
+        EXPECT_LE(face->getWidth(std::wstring_view(text).substr(0, head), 10.0f),
+                  std::max(limit, 0.0f));
+        EXPECT_NE(head, 5u) << "splits the surrogate pair";
+        if (head < text.size()) {
+            const std::size_t next = head == 4 ? 6 : head + 1;
+            EXPECT_GT(face->getWidth(std::wstring_view(text).substr(0, next), 10.0f), limit);
+        }
+        const std::size_t tail = face->getFittingTailLength(text, 10.0f, limit);
+        EXPECT_LE(face->getWidth(std::wstring_view(text).substr(text.size() - tail), 10.0f),
+                  std::max(limit, 0.0f));
+        EXPECT_NE(tail, 4u) << "splits the surrogate pair";
+    }
+    EXPECT_EQ(face->getFittingLength(text, 10.0f, whole), text.size());
+    EXPECT_EQ(face->getFittingTailLength(text, 10.0f, whole), text.size());
+}
+
+TEST(vxFontService, FamiliesOfTheSameMetricsStandInForEachOther) {
+    EXPECT_TRUE(service().hasFont(L"DejaVu Sans"));
+    EXPECT_TRUE(service().hasFont(L"systemfont"));
+    EXPECT_FALSE(service().hasFont(L"NoSuchFont 123"));
+    EXPECT_FALSE(service().hasFont(L""));
+    // DejaVu Sans is Bitstream Vera Sans extended.
+    EXPECT_FALSE(service().isInstalled(L"Bitstream Vera Sans"));
+    EXPECT_TRUE(service().hasFont(L"Bitstream Vera Sans"));
+    if (!service().isInstalled(L"Liberation Sans")) GTEST_SKIP() << "needs the Liberation fonts";
+    for (const wchar_t* name : {L"Arial", L"helvetica", L"Times New Roman", L"Courier"}) {
+        EXPECT_TRUE(service().hasFont(name)) << name;
+    }
 }
 
 }  // namespace
