@@ -15,8 +15,8 @@ std::wstring lowerCase(const std::wstring& text) {
 }
 
 bool cutEnding(std::wstring& text, const std::wstring& ending) {
-    if (text.size() < ending.size() || text.compare(text.size() - ending.size(), ending.size(),
-                                                    ending) != 0) {
+    if (text.size() < ending.size() ||
+        text.compare(text.size() - ending.size(), ending.size(), ending) != 0) {
         return false;
     }
     text.erase(text.size() - ending.size());

@@ -119,19 +119,31 @@ public:
     float getStringHeight() const;
     void getStringBounds(float bounds[4]) const;
 
-    // The line breaking of step 1, with this text's font.
+    // The two passes of step 1, with this text's font.
     //
-    // wrap: an empty text, or one without maxWidth, passes as it is; below
-    // a maxWidth of 0.5 nothing is left. Lines are filled until the next
-    // character would be wider than maxWidth and are broken at the last
-    // blank, whose blanks are dropped; a word longer than a line is cut,
-    // with at least one character a line. Written line breaks stand. With
-    // the ellipsis at the start the lines are filled from the end.
+    // wrap: an empty text, or one without a limit (below 0), passes as it
+    // is; below a limit of 0.5 nothing is left. Lines are filled until the
+    // next character would make them wider than the limit and are broken
+    // at the last blank, whose blanks are dropped; a word longer than a
+    // line is cut, with one character a line at least. Written line breaks
+    // stand, and trailing blanks of the text go. With the ellipsis at the
+    // start the lines are filled from the end of the text.
     std::wstring wrap(const std::wstring& text, float limit) const;
-    // shorten: an empty text, or one without maxHeight, passes as it is;
-    // below a maxHeight of 0.5 nothing is left. The lines that fit into
-    // maxHeight stand, and the ellipsis marks where text was left out; a
-    // text that fits is returned unchanged.
+    // shorten: an empty text, or one without a height limit, passes as it
+    // is; below a height of 0.5 nothing is left. The number of lines that
+    // fit is floor((limitHeight + leading) / (oneLineHeight + leading)), 1
+    // at least, and a text of no more lines (or of one line that is no
+    // wider than limitWidth) is returned unchanged. Otherwise the lines are
+    // cut by the ellipsis position:
+    //   0: the first lines stand, the last is cut at the width, no mark;
+    //   1: the last lines stand, the first ends the text before them and
+    //      starts with the ellipsis;
+    //   2: the text is cut in the middle line, which holds the start up to
+    //      half the width, the ellipsis, and the end; with two lines the
+    //      first ends and the second starts with an ellipsis;
+    //   3 and others: the first lines stand, the last holds the rest of
+    //      the text and ends with the ellipsis.
+    // Without limitWidth the width is that of the widest line.
     std::wstring shorten(const std::wstring& text, float limitWidth, float limitHeight,
                          float oneLineHeight, float leading, short position) const;
 

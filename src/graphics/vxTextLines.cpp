@@ -54,7 +54,8 @@ std::wstring vxTextLines::reversed(std::wstring_view text) {
     std::wstring result;
     result.reserve(text.size());
     for (std::size_t end = text.size(); end > 0;) {
-        const bool isPair = end >= 2 && isLowSurrogate(text[end - 1]) && isHighSurrogate(text[end - 2]);
+        const bool isPair =
+            end >= 2 && isLowSurrogate(text[end - 1]) && isHighSurrogate(text[end - 2]);
         const std::size_t units = isPair ? 2 : 1;
         result.append(text.substr(end - units, units));
         end -= units;

@@ -147,8 +147,7 @@ std::wstring vxText::shorten(const std::wstring& text, float limitWidth, float l
     if (n > 1 && lineCount >= static_cast<double>(n)) return text;
     if (n == 1 && dimensions[0] <= width) return text;
 
-    const std::size_t allowed =
-        n == 1 ? 1 : static_cast<std::size_t>(std::max(1.0, lineCount));
+    const std::size_t allowed = n == 1 ? 1 : static_cast<std::size_t>(std::max(1.0, lineCount));
     const Shortener shortener(*font, std::move(lines), allowed, width);
     switch (position) {
         case kNoEllipsis:

@@ -236,8 +236,8 @@ std::vector<vxFontFileInfo> vxFontService::listFontFiles() {
     std::vector<vxFontFileInfo> list;
     if (!start()) return list;
     FcPattern* pattern = FcPatternCreate();
-    FcObjectSet* objects = FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FULLNAME, FC_FAMILY, FC_STYLE,
-                                            FC_SCALABLE, nullptr);
+    FcObjectSet* objects =
+        FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FULLNAME, FC_FAMILY, FC_STYLE, FC_SCALABLE, nullptr);
     FcFontSet* fonts = nullptr;
     if (pattern != nullptr && objects != nullptr) {
         FcPatternAddBool(pattern, FC_SCALABLE, FcTrue);
