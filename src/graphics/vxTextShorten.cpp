@@ -5,7 +5,9 @@
 // count as blanks. Blanks next to an ellipsis are dropped.
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "graphics/vxFontOLD.h"
