@@ -131,7 +131,7 @@ float vxFontOLD::getLineHeight() const {
     return lineHeight;
 }
 
-float vxFontOLD::getWidth(const std::wstring& text) const {
+float vxFontOLD::getWidth(std::wstring_view text) const {
     if (text.empty()) return 0.0f;
     if (!hasMetrics) setUpMetrics();
     return face != nullptr ? face->getWidth(text, size) : 0.0f;
@@ -140,6 +140,16 @@ float vxFontOLD::getWidth(const std::wstring& text) const {
 float vxFontOLD::getWidth(wchar_t character) const {
     if (!hasMetrics) setUpMetrics();
     return face != nullptr ? face->getWidth(static_cast<char32_t>(character), size) : 0.0f;
+}
+
+std::size_t vxFontOLD::getFittingLength(std::wstring_view text, float limit) const {
+    if (!hasMetrics) setUpMetrics();
+    return face != nullptr ? face->getFittingLength(text, size, limit) : text.size();
+}
+
+std::size_t vxFontOLD::getFittingTailLength(std::wstring_view text, float limit) const {
+    if (!hasMetrics) setUpMetrics();
+    return face != nullptr ? face->getFittingTailLength(text, size, limit) : text.size();
 }
 
 long vxFontOLD::getDimensions(const std::wstring& text, float dimensions[2]) const {

@@ -5,6 +5,7 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "settings/vxErrorHolder.h"
 
@@ -37,6 +38,8 @@ public:
     void setDefaultSize(float value) { defaultSize = value; }
     void setDefaultStyle(short value) { defaultStyle = value; }
     const std::wstring& getDefaultName() const { return defaultName; }
+    float getDefaultSize() const { return defaultSize; }
+    short getDefaultStyle() const { return defaultStyle; }
 
     // Metrics in points (drawing units).
     float getAscent() const;
@@ -44,8 +47,12 @@ public:
     float getLeading() const;
     float getStringHeight() const;
     float getLineHeight() const;
-    float getWidth(const std::wstring& text) const;
+    float getWidth(std::wstring_view text) const;
     float getWidth(wchar_t character) const;
+    // The length in characters of the longest start (or end) of a one-line
+    // text that is at most `limit` wide; a surrogate pair is never split.
+    std::size_t getFittingLength(std::wstring_view text, float limit) const;
+    std::size_t getFittingTailLength(std::wstring_view text, float limit) const;
     // The width of the widest line and the height of all lines of a text
     // whose lines end with carriage returns; answers the number of lines.
     long getDimensions(const std::wstring& text, float dimensions[2]) const;

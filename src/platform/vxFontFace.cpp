@@ -21,6 +21,30 @@ std::string textOrEmpty(const char* text) {
     return text != nullptr ? std::string(text) : std::string();
 }
 
+bool isHighSurrogate(wchar_t c) {
+    return c >= 0xD800 && c <= 0xDBFF;
+}
+
+bool isLowSurrogate(wchar_t c) {
+    return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+// 2 where a surrogate pair starts (or ends) at the position, else 1.
+std::size_t codePointUnitsAt(std::wstring_view text, std::size_t i) {
+    return isHighSurrogate(text[i]) && i + 1 < text.size() && isLowSurrogate(text[i + 1]) ? 2 : 1;
+}
+
+std::size_t codePointUnitsBefore(std::wstring_view text, std::size_t end) {
+    return end >= 2 && isLowSurrogate(text[end - 1]) && isHighSurrogate(text[end - 2]) ? 2 : 1;
+}
+
+// A lone surrogate stays as it is; its advance is that of U+FFFD.
+char32_t codePointAt(std::wstring_view text, std::size_t i, std::size_t units) {
+    const char32_t c = static_cast<char32_t>(text[i]);
+    if (units == 1) return c;
+    return 0x10000 + ((c - 0xD800) << 10) + (static_cast<char32_t>(text[i + 1]) - 0xDC00);
+}
+
 }  // namespace
 
 std::unique_ptr<vxFontFace> vxFontFace::open(FT_LibraryRec_* library, const std::string& file,
@@ -125,22 +149,46 @@ int vxFontFace::loadAdvance(char32_t codePoint) {
 double vxFontFace::getAdvance(std::wstring_view text) {
     long long sum = 0;
     const std::size_t n = text.size();
-    for (std::size_t i = 0; i < n; ++i) {
-        char32_t c = static_cast<char32_t>(text[i]);
-        if (c >= 0xD800 && c <= 0xDBFF && i + 1 < n) {
-            const char32_t next = static_cast<char32_t>(text[i + 1]);
-            if (next >= 0xDC00 && next <= 0xDFFF) {
-                c = 0x10000 + ((c - 0xD800) << 10) + (next - 0xDC00);
-                ++i;
-            }
-        }
-        sum += getAdvance(c);
+    for (std::size_t i = 0; i < n;) {
+        const std::size_t units = codePointUnitsAt(text, i);
+        sum += getAdvance(codePointAt(text, i, units));
+        i += units;
     }
     return static_cast<double>(sum);
 }
 
+float vxFontFace::widthOf(long long advance, float size) const {
+    return static_cast<float>(static_cast<double>(advance) * size / unitsPerEm);
+}
+
 float vxFontFace::getWidth(std::wstring_view text, float size) {
-    return static_cast<float>(getAdvance(text) * size / unitsPerEm);
+    return widthOf(static_cast<long long>(getAdvance(text)), size);
+}
+
+std::size_t vxFontFace::getFittingLength(std::wstring_view text, float size, float limit) {
+    long long sum = 0;
+    std::size_t fitting = 0;
+    const std::size_t n = text.size();
+    for (std::size_t i = 0; i < n;) {
+        const std::size_t units = codePointUnitsAt(text, i);
+        sum += getAdvance(codePointAt(text, i, units));
+        if (widthOf(sum, size) > limit) break;
+        i += units;
+        fitting = i;
+    }
+    return fitting;
+}
+
+std::size_t vxFontFace::getFittingTailLength(std::wstring_view text, float size, float limit) {
+    long long sum = 0;
+    std::size_t start = text.size();
+    while (start > 0) {
+        const std::size_t units = codePointUnitsBefore(text, start);
+        sum += getAdvance(codePointAt(text, start - units, units));
+        if (widthOf(sum, size) > limit) break;
+        start -= units;
+    }
+    return text.size() - start;
 }
 
 float vxFontFace::getWidth(char32_t codePoint, float size) {

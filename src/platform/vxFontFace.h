@@ -85,10 +85,16 @@ public:
     // Widths in points at `size`.
     float getWidth(std::wstring_view text, float size);
     float getWidth(char32_t codePoint, float size);
+    // The length in UTF-16 units of the longest start (or end) of `text`
+    // that is at most `limit` points wide at `size`, measured as getWidth
+    // measures it. A surrogate pair is never split.
+    std::size_t getFittingLength(std::wstring_view text, float size, float limit);
+    std::size_t getFittingTailLength(std::wstring_view text, float size, float limit);
 
 private:
     vxFontFace() = default;
     int loadAdvance(char32_t codePoint);
+    float widthOf(long long advance, float size) const;
 
     static constexpr std::size_t kPageSize = 256;
     static constexpr std::size_t kNumOfPages = 0x110000 / kPageSize;

@@ -5,6 +5,10 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
+#include <algorithm>
+#include <tuple>
+
+#include "platform/vxFontSubstitutes.h"
 #include "platform/vxTextCodec.h"
 
 namespace Velarix {
@@ -35,6 +39,38 @@ FcPattern* makePattern(FcConfig* config, const std::string& family, bool bold, b
     FcConfigSubstitute(config, pattern, FcMatchPattern);
     FcDefaultSubstitute(pattern);
     return pattern;
+}
+
+std::wstring stringOf(FcPattern* pattern, const char* object) {
+    FcChar8* value = nullptr;
+    if (FcPatternGetString(pattern, object, 0, &value) != FcResultMatch || value == nullptr) {
+        return std::wstring();
+    }
+    return vxFromUtf8(reinterpret_cast<const char*>(value));
+}
+
+// A font's file, face, family and display name. Without a full name the
+// display name is the family and the style, unless the style is the
+// regular one.
+bool readFileInfo(FcPattern* font, vxFontFileInfo& info) {
+    FcChar8* file = nullptr;
+    if (FcPatternGetString(font, FC_FILE, 0, &file) != FcResultMatch || file == nullptr) {
+        return false;
+    }
+    info.file = reinterpret_cast<const char*>(file);
+    FcPatternGetInteger(font, FC_INDEX, 0, &info.index);
+    info.family = stringOf(font, FC_FAMILY);
+    info.fullName = stringOf(font, FC_FULLNAME);
+    if (info.fullName.empty()) {
+        const std::wstring style = stringOf(font, FC_STYLE);
+        const std::wstring lower = lowerAscii(style);
+        info.fullName = info.family;
+        if (!style.empty() && lower != L"regular" && lower != L"book" && lower != L"normal" &&
+            lower != L"roman") {
+            info.fullName += L" " + style;
+        }
+    }
+    return !info.family.empty();
 }
 
 }  // namespace
@@ -186,6 +222,38 @@ bool vxFontService::isInstalled(const std::wstring& name) {
     }
     installed[lower] = result;
     return result;
+}
+
+bool vxFontService::hasFont(const std::wstring& name) {
+    if (isInstalled(name)) return true;
+    for (const std::wstring& family : vxMetricCompatibleFamilies(lowerAscii(name))) {
+        if (isInstalled(family)) return true;
+    }
+    return false;
+}
+
+std::vector<vxFontFileInfo> vxFontService::listFontFiles() {
+    std::vector<vxFontFileInfo> list;
+    if (!start()) return list;
+    FcPattern* pattern = FcPatternCreate();
+    FcObjectSet* objects =
+        FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FULLNAME, FC_FAMILY, FC_STYLE, FC_SCALABLE, nullptr);
+    FcFontSet* fonts = nullptr;
+    if (pattern != nullptr && objects != nullptr) {
+        FcPatternAddBool(pattern, FC_SCALABLE, FcTrue);
+        fonts = FcFontList(config, pattern, objects);
+    }
+    for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
+        vxFontFileInfo info;
+        if (readFileInfo(fonts->fonts[i], info)) list.push_back(std::move(info));
+    }
+    if (fonts != nullptr) FcFontSetDestroy(fonts);
+    if (objects != nullptr) FcObjectSetDestroy(objects);
+    if (pattern != nullptr) FcPatternDestroy(pattern);
+    std::sort(list.begin(), list.end(), [](const vxFontFileInfo& a, const vxFontFileInfo& b) {
+        return std::tie(a.file, a.index) < std::tie(b.file, b.index);
+    });
+    return list;
 }
 
 bool vxFontService::getMetrics(const std::wstring& name, short style, float size,

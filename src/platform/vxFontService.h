@@ -19,12 +19,21 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/vxFontFace.h"
 
 struct _FcConfig;
 
 namespace Velarix {
+
+// One font file as the platform lists it.
+struct vxFontFileInfo {
+    std::string file;       // the path
+    int index = 0;          // the face within the file
+    std::wstring fullName;  // the display name, as "DejaVu Sans Bold Oblique"
+    std::wstring family;    // as "DejaVu Sans"
+};
 
 class vxFontService {
 public:
@@ -48,6 +57,13 @@ public:
     // for the name carries it among its family names (case is ignored).
     // The reserved names always exist; an empty name doesn't.
     bool isInstalled(const std::wstring& name);
+    // Whether text in the family comes out as the family's own: it is
+    // installed, or a family of the same metrics stands in for it (as
+    // Liberation Sans for Arial and Helvetica).
+    bool hasFont(const std::wstring& name);
+
+    // The scalable fonts of the platform, ordered by file and face index.
+    std::vector<vxFontFileInfo> listFontFiles();
 
     // Metrics and widths in points through findFace; false, or a width of
     // 0, when no face can be had.

@@ -1,6 +1,7 @@
 #include "settings/vxSystemSettings.h"
 
 #include "host/vxLog.h"
+#include "platform/vxFontService.h"
 #include "settings/vxCalendarNames.h"
 #include "settings/vxMessageTable.h"
 
@@ -40,6 +41,10 @@ void vxSystemSettings::copy(const vxSystemSettings* from) {
     mShortMonthNames = from->mShortMonthNames;
     mWeekdayNames = from->mWeekdayNames;
     mShortWeekdayNames = from->mShortWeekdayNames;
+}
+
+bool vxSystemSettings::fontExists(const std::wstring& name) const {
+    return vxFontService::get().hasFont(name);
 }
 
 void vxSystemSettings::dump(short depth, std::ostream& out) const {

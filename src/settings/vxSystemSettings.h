@@ -21,7 +21,9 @@ public:
     virtual std::wstring getDateOrder() const { return L"MDY"; }
     virtual wchar_t getDateSeparator() const { return L'/'; }
     virtual wchar_t getTimeSeparator() const { return L':'; }
-    virtual bool fontExists(const std::wstring& name) const { return true; }
+    // Whether the platform has the font: installed, or stood in for by a
+    // font of the same metrics. "systemfont" and "applfont" always exist.
+    virtual bool fontExists(const std::wstring& name) const;
 
     bool isMacOS() const { return mIsMacOS; }
     void setIsMacOS(bool value) { mIsMacOS = value; }

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "platform/vxFontService.h"
 
@@ -122,6 +124,40 @@ TEST(vxFontService, Utf16TextIsMeasuredByCodePoint) {
                     2.0f * replacement);
     // Control characters, line ends among them, take no room.
     EXPECT_FLOAT_EQ(face->getWidth(L"ab\r\ncd\t", size), face->getWidth(L"abcd", size));
+}
+
+TEST(vxFontService, FittingLengthsAgreeWithTheWidths) {
+    vxFontFace* face = requireFace(L"DejaVu Sans");
+    ASSERT_NE(face, nullptr);
+    // The pair at 4 and 5 is never split.
+    const std::wstring units = L"Fit " + std::wstring{wchar_t(0xD83D), wchar_t(0xDE00)} + L" in";
+    const std::wstring_view text16(units);
+    for (float limit = -1.0f; limit <= face->getWidth(text16, 10.0f) + 1.0f; limit += 0.25f) {
+        const std::size_t head = face->getFittingLength(text16, 10.0f, limit);
+        const std::size_t tail = face->getFittingTailLength(text16, 10.0f, limit);
+        EXPECT_LE(face->getWidth(text16.substr(0, head), 10.0f), std::max(limit, 0.0f));
+        EXPECT_LE(face->getWidth(text16.substr(text16.size() - tail), 10.0f),
+                  std::max(limit, 0.0f));
+        if (head < text16.size()) {
+            EXPECT_GT(face->getWidth(text16.substr(0, head == 4 ? 6 : head + 1), 10.0f), limit);
+        }
+        EXPECT_NE(head, 5u);
+        EXPECT_NE(tail, 4u);
+    }
+}
+
+TEST(vxFontService, FamiliesOfTheSameMetricsStandInForEachOther) {
+    EXPECT_TRUE(service().hasFont(L"DejaVu Sans"));
+    EXPECT_TRUE(service().hasFont(L"systemfont"));
+    EXPECT_FALSE(service().hasFont(L"NoSuchFont 123"));
+    EXPECT_FALSE(service().hasFont(L""));
+    // DejaVu Sans is Bitstream Vera Sans extended.
+    EXPECT_FALSE(service().isInstalled(L"Bitstream Vera Sans"));
+    EXPECT_TRUE(service().hasFont(L"Bitstream Vera Sans"));
+    if (!service().isInstalled(L"Liberation Sans")) GTEST_SKIP() << "needs the Liberation fonts";
+    for (const wchar_t* name : {L"Arial", L"helvetica", L"Times New Roman", L"Courier"}) {
+        EXPECT_TRUE(service().hasFont(name)) << name;
+    }
 }
 
 }  // namespace

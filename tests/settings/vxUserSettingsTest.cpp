@@ -124,7 +124,8 @@ TEST(vxUserSettingsTest, SystemAnswersOfThisPlatform) {
     EXPECT_EQ(system.getDateOrder(), L"MDY");
     EXPECT_EQ(system.getDateSeparator(), L'/');
     EXPECT_EQ(system.getTimeSeparator(), L':');
-    EXPECT_TRUE(system.fontExists(L"No Such Font"));
+    EXPECT_FALSE(system.fontExists(L"No Such Font"));
+    EXPECT_TRUE(system.fontExists(L"systemfont"));
     EXPECT_FALSE(system.isWindowsOS());
     EXPECT_EQ(system.getMonthNames().front(), L"January");
 }
