@@ -94,7 +94,8 @@ void vxBitmap::getColor(long x, long y, uint8_t rgba[4]) const {
 }
 
 uint32_t vxBitmap::premultiply(uint8_t red, uint8_t green, uint8_t blue, uint8_t alpha) {
-    return (static_cast<uint32_t>(alpha) << 24) | (static_cast<uint32_t>(scaled(red, alpha)) << 16) |
+    return (static_cast<uint32_t>(alpha) << 24) |
+           (static_cast<uint32_t>(scaled(red, alpha)) << 16) |
            (static_cast<uint32_t>(scaled(green, alpha)) << 8) | scaled(blue, alpha);
 }
 

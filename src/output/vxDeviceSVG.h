@@ -147,8 +147,7 @@ private:
     std::wstring strokePaintPart(const vxPaintOLD& paint) const;
     // `isAreaFill` for the fill of a shape: a hatch at half opacity, a
     // texture by its gradient resource.
-    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint,
-                           bool isAreaFill) const;
+    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, bool isAreaFill) const;
     static std::wstring strokeParts(const vxStrokeOLD& stroke);
     std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
     std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;

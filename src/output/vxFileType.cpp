@@ -1,6 +1,5 @@
 #include "output/vxFileType.h"
 
-
 namespace Velarix {
 
 namespace {
@@ -11,11 +10,11 @@ struct Extension {
 };
 
 constexpr Extension kExtensions[] = {
-    {L"txt", kFileTypeTXT},   {L"gif", kFileTypeGIF},   {L"jpg", kFileTypeJPEG},
-    {L"jpeg", kFileTypeJPEG}, {L"tif", kFileTypeTIFF},  {L"tiff", kFileTypeTIFF},
-    {L"png", kFileTypePNG},   {L"bmp", kFileTypeBMP},   {L"pct", kFileTypePICT},
-    {L"pict", kFileTypePICT}, {L"wmf", kFileTypeWMF},   {L"emf", kFileTypeEMF},
-    {L"pdf", kFileTypePDF},   {L"svg", kFileTypeSVG},   {L"swf", kFileTypeSWF},
+    {L"txt", kFileTypeTXT},   {L"gif", kFileTypeGIF},  {L"jpg", kFileTypeJPEG},
+    {L"jpeg", kFileTypeJPEG}, {L"tif", kFileTypeTIFF}, {L"tiff", kFileTypeTIFF},
+    {L"png", kFileTypePNG},   {L"bmp", kFileTypeBMP},  {L"pct", kFileTypePICT},
+    {L"pict", kFileTypePICT}, {L"wmf", kFileTypeWMF},  {L"emf", kFileTypeEMF},
+    {L"pdf", kFileTypePDF},   {L"svg", kFileTypeSVG},  {L"swf", kFileTypeSWF},
     {L"dwg", kFileTypeDWG},
 };
 

@@ -14,7 +14,8 @@ namespace {
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
 bool endsWith(const std::string& text, const std::string& tail) {
-    return text.size() >= tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
+    return text.size() >= tail.size() &&
+           text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
 }
 
 // How often `part` stands in text[begin, end).

@@ -21,13 +21,15 @@ bool vxReadFileWIN::setName(const std::wstring& name) {
     if (!createFName(name) || !setImageType()) return false;
     std::vector<uint8_t> bytes;
     if (!readBytes(bytes, *this)) return false;
+    // The whole picture is decoded once, so that a damaged file is told
+    // here, whichever device draws it later; the pixels aren't kept.
     vxPictureReader reader;
-    vxPictureInfo info;
-    if (!reader.readInfo(getFileType(), bytes, info)) {
+    vxBitmap pixels;
+    if (!reader.read(getFileType(), bytes, pixels)) {
         copyError(reader.getError());
         return false;
     }
-    setSize(info.width, info.height);
+    setSize(pixels.getWidth(), pixels.getHeight());
     return true;
 }
 

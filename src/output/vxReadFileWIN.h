@@ -1,6 +1,7 @@
 // A picture file read through the platform's picture reader: setName takes
-// the path, checks that its type has a reader and reads the size from the
-// header; read decodes the pixels when a device needs them.
+// the path, checks that its type has a reader and decodes the picture once
+// to learn its size and to find damage early; read decodes the pixels again
+// when a device needs them.
 #pragma once
 
 #include <memory>

@@ -36,8 +36,7 @@ bool vxPictureReader::read(short fileType, Bytes bytes, vxBitmap& bitmap) {
     return false;
 }
 
-bool vxPictureReader::dispatch(short fileType, Bytes bytes, vxPictureInfo& info,
-                               vxBitmap* bitmap) {
+bool vxPictureReader::dispatch(short fileType, Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap) {
     clearError();
     switch (fileType) {
         case kFileTypePNG:

@@ -89,8 +89,8 @@ bool vxPictureReader::readPNG(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap
     }
     PngReader reader;
     reader.input = {bytes.data(), bytes.size(), 0};
-    reader.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, failWithoutMessage,
-                                        ignoreMessage);
+    reader.png =
+        png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, failWithoutMessage, ignoreMessage);
     if (reader.png) reader.info = png_create_info_struct(reader.png);
     if (!reader.png || !reader.info) {
         setError(vxErrRuntime::kOutOfMemory, where(L"readPNG", 2));
@@ -110,7 +110,8 @@ bool vxPictureReader::readPNG(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap
     if (!allocate(*bitmap, info)) return false;
     std::vector<png_bytep> rows(static_cast<size_t>(info.height));
     for (long y = 0; y < info.height; ++y) {
-        rows[static_cast<size_t>(y)] = reinterpret_cast<png_bytep>(bitmap->getData() + y * info.width);
+        rows[static_cast<size_t>(y)] =
+            reinterpret_cast<png_bytep>(bitmap->getData() + y * info.width);
     }
     if (!readPixels(reader, rows.data())) {
         setError(vxErrFile::kRead, where(L"readPNG", 5));

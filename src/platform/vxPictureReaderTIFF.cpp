@@ -71,10 +71,10 @@ struct OptionsFree {
 
 bool hasSignature(std::span<const uint8_t> bytes) {
     if (bytes.size() < 8) return false;
-    const bool little = bytes[0] == 'I' && bytes[1] == 'I' && (bytes[2] == 42 || bytes[2] == 43) &&
-                        bytes[3] == 0;
-    const bool big = bytes[0] == 'M' && bytes[1] == 'M' && bytes[2] == 0 &&
-                     (bytes[3] == 42 || bytes[3] == 43);
+    const bool little =
+        bytes[0] == 'I' && bytes[1] == 'I' && (bytes[2] == 42 || bytes[2] == 43) && bytes[3] == 0;
+    const bool big =
+        bytes[0] == 'M' && bytes[1] == 'M' && bytes[2] == 0 && (bytes[3] == 42 || bytes[3] == 43);
     return little || big;
 }
 
@@ -113,9 +113,9 @@ bool vxPictureReader::readTIFF(Bytes bytes, vxPictureInfo& info, vxBitmap* bitma
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignoreMessage, nullptr);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
     MemoryInput input{bytes.data(), static_cast<toff_t>(bytes.size()), 0};
-    std::unique_ptr<TIFF, TiffCloser> tif(TIFFClientOpenExt(
-        "picture", "rm", &input, readFromMemory, refuseWrite, seekInMemory, closeNothing,
-        sizeOfMemory, mapNothing, unmapNothing, options.get()));
+    std::unique_ptr<TIFF, TiffCloser> tif(
+        TIFFClientOpenExt("picture", "rm", &input, readFromMemory, refuseWrite, seekInMemory,
+                          closeNothing, sizeOfMemory, mapNothing, unmapNothing, options.get()));
     uint32_t width = 0, height = 0;
     if (!tif || !TIFFGetField(tif.get(), TIFFTAG_IMAGEWIDTH, &width) ||
         !TIFFGetField(tif.get(), TIFFTAG_IMAGELENGTH, &height)) {

@@ -44,7 +44,8 @@ long vxResources::calculateResourceID(short patternIndex) {
 bool vxResources::exists(long id) {
     if (id == kHatchResource) return true;
     const short code = getIndexCode(id);
-    return (code >= 1 && code <= kNumOfGradients) || (code >= kFirstTexture && code <= kLastTexture);
+    return (code >= 1 && code <= kNumOfGradients) ||
+           (code >= kFirstTexture && code <= kLastTexture);
 }
 
 short vxResources::getIndexCode(long id) {

@@ -124,7 +124,8 @@ double dots(int v, int x, int y) {
 double speckle(int v, int x, int y, uint32_t seed) {
     static const int periods[] = {4, 8, 2, 4, 8, 16, 2, 4};
     const double value = fractal(x, y, periods[v], 3, seed);
-    if (v >= 6) return unit(static_cast<uint32_t>(x), static_cast<uint32_t>(y), seed) < 0.15 ? 0.0 : value;
+    if (v >= 6)
+        return unit(static_cast<uint32_t>(x), static_cast<uint32_t>(y), seed) < 0.15 ? 0.0 : value;
     return value;
 }
 
