@@ -54,7 +54,7 @@ struct Channel {
     }
     uint8_t of(uint32_t pixel) const {
         if (maximum == 0) return 0;
-        return static_cast<uint8_t>(((pixel & mask) >> shift) * 255u / maximum);
+        return static_cast<uint8_t>(uint64_t{(pixel & mask) >> shift} * 255u / maximum);
     }
 };
 
