@@ -2,8 +2,8 @@
 // the stack values how much data one picture stands for (stackValueUC) and
 // how much drawing length (stackValueDC).
 //
-// The picture itself is not held yet: the image stays empty, and with it
-// hasImage is false.
+// The picture is an owned vxImage, made by createImage; copying the paint
+// copies it.
 #pragma once
 
 #include <memory>
@@ -31,7 +31,14 @@ public:
 
     // An image and anchor bounds of some width and height.
     bool hasImage() const;
-    vxImage* getImage() const { return image; }
+    vxImage* getImage() const { return image.get(); }
+    // A new, empty image in place of the old one; error 5000 at
+    // "/createImage/1" when it can't be made.
+    bool createImage();
+    // A copy of `from`; null drops the image.
+    bool setImage(const vxImage* from);
+    // The picture of a script call (vxImage::assign) into a new image.
+    bool assignImage(vxAssign& assign);
     bool hasStackValue() const { return stackValueUC > 1e-10; }
     double getStackValueUC() const { return stackValueUC; }
     void setStackValueUC(double value) { stackValueUC = value; }
@@ -53,7 +60,7 @@ protected:
     void dumpFields(short depth, std::ostream& out) const override;
 
 private:
-    vxImage* image = nullptr;
+    std::unique_ptr<vxImage> image;
     double stackValueUC = 0.0;
     float stackValueDC = 0.0f;
     short alignment = -1;

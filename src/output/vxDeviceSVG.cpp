@@ -109,10 +109,6 @@ void vxDeviceSVG::setClipRegion(const vxVerbs& verbs, const vxPoints& x, const v
     isClipActive = true;
 }
 
-// The one place where pictures will enter the document. Until images can
-// be read, nothing is written for them.
-void vxDeviceSVG::drawImage(const vxImage& image) {}
-
 void vxDeviceSVG::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDevice::dump(depth, out);

@@ -23,8 +23,16 @@
 // SVG has no way to combine clips: every clip mode replaces the clip. A
 // clip is active from its definition up to resetClipRegion, and every
 // element written meanwhile refers to it. Patterns have no SVG form: a hatch
-// falls back to its colour at half opacity, and a texture fills with
-// nothing of its own. Shadows are hard-edged copies; text has none.
+// falls back to its colour at half opacity, and a texture fills an area
+// only when its picture is a gradient resource, with that gradient; lines
+// and text get nothing from a texture. Shadows are hard-edged copies; text
+// has none.
+//
+// Pictures (drawImage) by the kind of their source: a gradient resource is
+// its gradient's definition and one filled <rect> per tile; a file is one
+// <image> per tile, referring to the file's path; any other resource, the
+// clipboard and a URL write nothing, and a fault of a clipboard or URL
+// source is copied to the device. Tiles come row by row, columns inside.
 #pragma once
 
 #include <memory>
@@ -37,6 +45,7 @@
 namespace Velarix {
 
 class vxGradientPaint;
+class vxImageMapping;
 class vxLinearGradient;
 class vxRadialGradient;
 class vxUserSettings;
@@ -139,15 +148,16 @@ private:
     std::wstring fillPart(const vxPaintOLD& paint) const;
     std::wstring textFillPart(const vxPaintOLD& paint) const;
     std::wstring strokePaintPart(const vxPaintOLD& paint) const;
-    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint,
-                           bool isHatchHalfOpaque) const;
+    // `isAreaFill` for the fill of a shape: a hatch at half opacity, a
+    // texture by its gradient resource.
+    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, bool isAreaFill) const;
     static std::wstring strokeParts(const vxStrokeOLD& stroke);
     std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
     std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;
     std::wstring textStyle(const vxFontOLD& font, const vxPaintOLD& paint, short hAlignment) const;
 
     // Gradient definitions (vxDeviceSVGStyle.cpp). The gradient a paint
-    // fills with, or null.
+    // fills with, or null: a texture's is that of its gradient resource.
     static const vxGradientPaint* gradientOf(const vxPaintOLD& paint);
     // Writes the definition of the paint's gradient, if it has one, under
     // the next id of its counter.
@@ -193,6 +203,15 @@ private:
     bool writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                           const vxPaintOLD* fillPaint, short symbolType, float size, float x,
                           float y, Offset at);
+
+    // Pictures (vxDeviceSVGImage.cpp). A tile narrower or lower than 1 is
+    // error 5010 and nothing is written.
+    void writeGradientTiles(const vxImageMapping& mapping, const vxGradientPaint& gradient);
+    void writeFileTiles(const vxImageMapping& mapping, const std::wstring& path);
+    bool hasDrawableTiles(const vxImageMapping& mapping);
+    // A path as an attribute value: "&" escaped, characters beyond ASCII
+    // as percent-escaped UTF-8, so that the document stays ASCII.
+    static std::wstring hrefOf(const std::wstring& path);
 
     // The text of one line as character references (vxDeviceSVGText.cpp).
     static std::wstring characterReferences(const std::wstring& line);

@@ -8,7 +8,9 @@
 #include "graphics/vxLinearGradient.h"
 #include "graphics/vxRadialGradient.h"
 #include "graphics/vxStrokeOLD.h"
+#include "graphics/vxTexturePaintOLD.h"
 #include "output/vxDeviceSVG.h"
+#include "output/vxImage.h"
 #include "output/vxNumberWriter.h"
 
 namespace Velarix {
@@ -80,11 +82,12 @@ std::wstring vxDeviceSVG::clipPart() const {
     return L"clip-path: url(#clipPath" + std::to_wstring(clipCounter) + L"); ";
 }
 
-// A texture fills with nothing of its own; the gradients refer to their
-// definition, written just before the element under the current id.
+// The gradients refer to their definition, written just before the element
+// under the current id; a texture does so only in the fill of an area.
 std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& paint,
-                                    bool isHatchHalfOpaque) const {
+                                    bool isAreaFill) const {
     const std::wstring name = property;
+    if (paint.getType() == vxPaintOLD::kTexture && !isAreaFill) return L"";
     if (const vxGradientPaint* gradient = gradientOf(paint)) {
         if (gradient->getType() == vxPaintOLD::kLinearGradient) {
             return name + L": url(#lg" + std::to_wstring(linearGradientCounter) + L"); ";
@@ -98,7 +101,7 @@ std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& p
     std::wstring s = name + L": " + color->toHashText() + L"; ";
     if (!color->isOpaque()) {
         s += name + L"-opacity: " + vxNumberWriter::generalW(color->getAlphaF()) + L"; ";
-    } else if (isHatchHalfOpaque && basic.hasHatch()) {
+    } else if (isAreaFill && basic.hasHatch()) {
         // A hatch has no SVG form: its colour at half opacity stands for it.
         s += name + L"-opacity: 0.5; ";
     }
@@ -157,13 +160,15 @@ std::wstring vxDeviceSVG::textStyle(const vxFontOLD& font, const vxPaintOLD& pai
     return s + textFillPart(paint) + L"stroke: none;\" ";
 }
 
-// A texture whose picture is a gradient resource will answer that
-// gradient here once pictures are read; until then a texture has none.
 const vxGradientPaint* vxDeviceSVG::gradientOf(const vxPaintOLD& paint) {
     switch (paint.getType()) {
         case vxPaintOLD::kLinearGradient:
         case vxPaintOLD::kRadialGradient:
             return static_cast<const vxGradientPaint*>(&paint);
+        case vxPaintOLD::kTexture: {
+            const vxImage* image = static_cast<const vxTexturePaintOLD&>(paint).getImage();
+            return image ? image->getGradient() : nullptr;
+        }
         default:
             return nullptr;
     }
