@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <vector>
 
 #include "platform/vxImageEncoder.h"
@@ -19,31 +18,31 @@ public:
     // Stores straight red, green, blue, alpha premultiplied, as cairo would.
     void set(int x, int y, vxRGBA colour);
     void fill(int x0, int y0, int x1, int y1, vxRGBA colour);
-    vxRasterPixels pixels() const;
+    vxRasterPixels pixels() const { return {mBytes.data(), mWidth, mHeight, mStride}; }
 
 private:
     int mWidth, mHeight, mStride;
     std::vector<unsigned char> mBytes;
 };
 
-// A picture read back: straight RGBA pixels (alpha 255 where the file holds
-// none) and the resolution in dots per inch, 0 where the file holds none.
+// A picture read back: RGB or RGBA samples with straight alpha, and the
+// resolution in dots per inch, 0 where the file holds none.
 struct vxDecodedPicture {
     bool ok = false;
-    std::string error;
     int width = 0;
     int height = 0;
     bool hasAlpha = false;
     double dpiX = 0;
     double dpiY = 0;
-    std::vector<vxRGBA> pixels;
+    std::vector<unsigned char> samples;
 
-    vxRGBA at(int x, int y) const { return pixels[size_t(y) * size_t(width) + size_t(x)]; }
+    // Alpha is 255 in a picture without it.
+    vxRGBA at(int x, int y) const;
 };
 
 vxDecodedPicture vxDecodePicture(vxImageFormat format, const std::vector<unsigned char>& bytes);
 
-// The largest difference of one channel; alpha counts only when both have it.
+// The largest difference of one channel; alpha counts only `withAlpha`.
 int vxChannelDifference(const vxRGBA& a, const vxRGBA& b, bool withAlpha);
 
 // A straight colour shown over white, rounded: what a picture without alpha
