@@ -38,8 +38,8 @@ void vxLine2DOLD::calculateBounds(float b[4]) const {
     b[3] = std::max(y1, y2);
 }
 
-void vxLine2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
-                               const vxPaintOLD& paint, const float[4]) {
+void vxLine2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                               const float[4]) {
     device.drawLine2D(stroke, paint, x1, y1, x2, y2);
 }
 

@@ -49,7 +49,7 @@ bool vxLineArray2DOLD::set(const std::vector<float>& xy) {
     });
 }
 
-bool vxLineArray2DOLD::set(long index, float px, float py) {
+bool vxLineArray2DOLD::setPoint(long index, float px, float py) {
     if (index < 0 || index >= getNumOfPoints()) return false;
     x[index] = px;
     y[index] = py;
@@ -129,12 +129,12 @@ void vxLineArray2DOLD::calculateBounds(float b[4]) const {
 
 void vxLineArray2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
                                     const vxPaintOLD& paint, const float[4]) {
-    device.drawLineArray2D(stroke, paint, x, y);
+    if (getNumOfLines() > 0) device.drawLineArray2D(stroke, paint, x, y);
 }
 
 void vxLineArray2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
                                     const vxShadowOLD& shadow, const float[4]) {
-    device.drawLineArray2D(stroke, shadow, x, y);
+    if (getNumOfLines() > 0) device.drawLineArray2D(stroke, shadow, x, y);
 }
 
 void vxLineArray2DOLD::copy(const vxLineArray2DOLD* from) {

@@ -24,7 +24,7 @@ public:
     // x, y, x, y, ...
     bool set(const std::vector<float>& xy);
     // Moves the point at `index`; false for an index out of range.
-    bool set(long index, float px, float py);
+    bool setPoint(long index, float px, float py);
     bool addX(float value);
     bool addX(const std::vector<float>& values);
     bool addY(float value);

@@ -21,11 +21,35 @@ bool isSamePoint(float x1, float y1, float x2, float y2) {
     return std::fabs(x1 - x2) < kSamePoint && std::fabs(y1 - y2) < kSamePoint;
 }
 
+// The points a verb takes; -1 for an unknown verb.
+long pointsOfVerb(long verb) {
+    switch (verb) {
+        case vxPath2DOLD::kClose:
+            return 0;
+        case vxPath2DOLD::kMove:
+        case vxPath2DOLD::kLine:
+            return 1;
+        case vxPath2DOLD::kQuad:
+            return 2;
+        case vxPath2DOLD::kCubic:
+            return 3;
+        default:
+            return -1;
+    }
+}
+
 }  // namespace
 
 vxPath2DOLD::vxPath2DOLD(vxUserSettings* owner) : vxGObject2D(L"vxPath2DOLD", owner) {}
 
 vxPath2DOLD::~vxPath2DOLD() = default;
+
+long vxPath2DOLD::endOfRange(long start, long count, const std::vector<float>& xs,
+                             const std::vector<float>& ys) {
+    const long size = static_cast<long>(std::min(xs.size(), ys.size()));
+    if (start < 0 || start >= size || count <= 0) return std::max(0L, start);
+    return start + std::min(count, size - start);
+}
 
 // ---- verbs ------------------------------------------------------------------
 
@@ -38,7 +62,7 @@ void vxPath2DOLD::append(short verb, float px, float py) {
     if (verbs.empty()) moveTo(0.0f, 0.0f);
     verbs.push_back(verb);
     appendPoint(px, py);
-    invalidate();
+    invalidateBounds();
 }
 
 void vxPath2DOLD::getCurrentPoint(float& cx, float& cy) const {
@@ -69,7 +93,7 @@ void vxPath2DOLD::moveTo(float px, float py) {
         }
     }
     startIndex = static_cast<long>(x.size()) - 1;
-    invalidate();
+    invalidateBounds();
 }
 
 void vxPath2DOLD::lineTo(float px, float py) {
@@ -186,16 +210,16 @@ void vxPath2DOLD::addPolygon(const std::vector<float>& xs, const std::vector<flo
     addPolygon(xs, ys, 0, static_cast<long>(std::min(xs.size(), ys.size())), doClose);
 }
 
-void vxPath2DOLD::addPolygon(const std::vector<float>& xs, const std::vector<float>& ys,
-                             long start, long count, bool doClose) {
-    vxGuardAllocation(*this, L"addPolygon", 1, [&] { buildPolygon(xs, ys, start, count, doClose); });
+void vxPath2DOLD::addPolygon(const std::vector<float>& xs, const std::vector<float>& ys, long start,
+                             long count, bool doClose) {
+    vxGuardAllocation(*this, L"addPolygon", 1,
+                      [&] { buildPolygon(xs, ys, start, count, doClose); });
 }
 
 void vxPath2DOLD::buildPolygon(const std::vector<float>& xs, const std::vector<float>& ys,
                                long start, long count, bool doClose) {
-    const long end =
-        std::min<long>(start + count, static_cast<long>(std::min(xs.size(), ys.size())));
-    if (start < 0 || start >= end) return;
+    const long end = endOfRange(start, count, xs, ys);
+    if (end - start < 1) return;
     setCapacity(getNumOfPoints() + (end - start));
     moveTo(xs[start], ys[start]);
     for (long i = start + 1; i < end; ++i) lineTo(xs[i], ys[i]);
@@ -220,20 +244,30 @@ void vxPath2DOLD::replay(const std::vector<short>& vs, const std::vector<float>&
     const size_t count = std::min(xs.size(), ys.size());
     size_t p = 0;
     for (short verb : vs) {
-        const size_t needed = verb == kMove || verb == kLine ? 1
-                              : verb == kQuad                ? 2
-                              : verb == kCubic               ? 3
-                                                             : 0;
+        const long points = pointsOfVerb(verb);
+        if (points < 0) return;
+        const size_t needed = static_cast<size_t>(points);
         if (p + needed > count) return;
         const float* px = xs.data() + p;
         const float* py = ys.data() + p;
         switch (verb) {
-            case kMove: moveTo(px[0], py[0]); break;
-            case kLine: lineTo(px[0], py[0]); break;
-            case kQuad: quadTo(px[0], py[0], px[1], py[1]); break;
-            case kCubic: cubicTo(px[0], py[0], px[1], py[1], px[2], py[2]); break;
-            case kClose: close(); break;
-            default: break;
+            case kMove:
+                moveTo(px[0], py[0]);
+                break;
+            case kLine:
+                lineTo(px[0], py[0]);
+                break;
+            case kQuad:
+                quadTo(px[0], py[0], px[1], py[1]);
+                break;
+            case kCubic:
+                cubicTo(px[0], py[0], px[1], py[1], px[2], py[2]);
+                break;
+            case kClose:
+                close();
+                break;
+            default:
+                break;
         }
         p += needed;
     }
@@ -244,19 +278,27 @@ void vxPath2DOLD::addVerbList(const std::vector<float>& list) {
         size_t i = 0;
         while (i < list.size()) {
             const long code = std::lround(list[i]);
-            const size_t needed = code == kClose ? 0
-                                  : code == kMove || code == kLine ? 2
-                                  : code == kQuad                  ? 4
-                                  : code == kCubic                 ? 6
-                                                                   : list.size();
+            const long points = pointsOfVerb(code);
+            if (points < 0) return;
+            const size_t needed = 2 * static_cast<size_t>(points);
             if (i + 1 + needed > list.size()) return;
             const float* v = list.data() + i + 1;
             switch (code) {
-                case kClose: close(); break;
-                case kMove: moveTo(v[0], v[1]); break;
-                case kLine: lineTo(v[0], v[1]); break;
-                case kQuad: quadTo(v[0], v[1], v[2], v[3]); break;
-                default: cubicTo(v[0], v[1], v[2], v[3], v[4], v[5]); break;
+                case kClose:
+                    close();
+                    break;
+                case kMove:
+                    moveTo(v[0], v[1]);
+                    break;
+                case kLine:
+                    lineTo(v[0], v[1]);
+                    break;
+                case kQuad:
+                    quadTo(v[0], v[1], v[2], v[3]);
+                    break;
+                default:
+                    cubicTo(v[0], v[1], v[2], v[3], v[4], v[5]);
+                    break;
             }
             i += 1 + needed;
         }
@@ -279,7 +321,7 @@ void vxPath2DOLD::clear() {
     x.clear();
     y.clear();
     startIndex = 0;
-    invalidate();
+    invalidateBounds();
 }
 
 void vxPath2DOLD::transform(const vxTransform2DOLD& t) {
@@ -328,21 +370,21 @@ void vxPath2DOLD::setDefaults() {
 // ---- drawing ----------------------------------------------------------------
 
 void vxPath2DOLD::fillShape(vxDevice& device, const vxPaintOLD& paint, const float b[4]) {
-    device.fillPath2D(paint, verbs, x, y, b, windingRule);
+    if (!verbs.empty()) device.fillPath2D(paint, verbs, x, y, b, windingRule);
 }
 
 void vxPath2DOLD::fillShape(vxDevice& device, const vxShadowOLD& shadow, const float b[4]) {
-    device.fillPath2D(shadow, verbs, x, y, b, windingRule);
+    if (!verbs.empty()) device.fillPath2D(shadow, verbs, x, y, b, windingRule);
 }
 
-void vxPath2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
-                               const vxPaintOLD& paint, const float b[4]) {
-    device.drawPath2D(stroke, paint, verbs, x, y, b);
+void vxPath2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                               const float b[4]) {
+    if (!verbs.empty()) device.drawPath2D(stroke, paint, verbs, x, y, b);
 }
 
 void vxPath2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
                                const vxShadowOLD& shadow, const float b[4]) {
-    device.drawPath2D(stroke, shadow, verbs, x, y, b);
+    if (!verbs.empty()) device.drawPath2D(stroke, shadow, verbs, x, y, b);
 }
 
 void vxPath2DOLD::dump(short depth, std::ostream& out) const {

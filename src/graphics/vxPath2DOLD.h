@@ -163,8 +163,8 @@ public:
     // then the numbers; the offset moves past both. Smooth kinds need three
     // points and take `tension`, the others two; fewer leave the path as it
     // is. Steps and jumps take the default line shape's factors. A multigon
-    // reads n, start angle in degrees, cx, cy, rx, [ry, innerRatio,
-    // innerOffset] from the numbers. Returns false on an error.
+    // reads n (at most 10000), start angle in degrees, cx, cy, rx, [ry,
+    // innerRatio, innerOffset] from the numbers. Returns false on an error.
     bool assignPath(short kind, vxAssign& assign, float tension = 1.0f);
 
     // ---- contents --------------------------------------------------------
@@ -204,12 +204,15 @@ protected:
                       const float bounds[4]) override;
 
 private:
+    // The end of the range of `count` points from `start` within both lists;
+    // `start` itself when the range is empty.
+    static long endOfRange(long start, long count, const std::vector<float>& xs,
+                           const std::vector<float>& ys);
     void append(short verb, float px, float py);
     // Adds the verbs and points through the building operations.
     void replay(const std::vector<short>& verbs, const std::vector<float>& xs,
                 const std::vector<float>& ys);
     void appendPoint(float px, float py);
-    void invalidate() { invalidateBounds(); }
     // The first control point of a smooth curve.
     void reflectedControl(float& cx, float& cy) const;
 

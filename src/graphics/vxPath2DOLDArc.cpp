@@ -20,8 +20,8 @@ double angleBetween(double ux, double uy, double vx, double vy) {
 
 }  // namespace
 
-void vxPath2DOLD::arcTo(float rxIn, float ryIn, float rotation, bool largeArc, bool sweep,
-                        float x2, float y2) {
+void vxPath2DOLD::arcTo(float rxIn, float ryIn, float rotation, bool largeArc, bool sweep, float x2,
+                        float y2) {
     float x1 = 0.0f, y1 = 0.0f;
     getCurrentPoint(x1, y1);
     const double hx = (static_cast<double>(x1) - x2) / 2, hy = (static_cast<double>(y1) - y2) / 2;
@@ -67,10 +67,11 @@ void vxPath2DOLD::arcTo(float rxIn, float ryIn, float rotation, bool largeArc, b
     for (long j = 0; j < n; ++j) {
         const double a = theta + j * d, b = a + d;
         const bool isLast = j + 1 == n;
-        cubicTo(static_cast<float>(pointX(a) + slopeX(a)), static_cast<float>(pointY(a) + slopeY(a)),
-                static_cast<float>(pointX(b) - slopeX(b)), static_cast<float>(pointY(b) - slopeY(b)),
-                isLast ? x2 : static_cast<float>(pointX(b)),
-                isLast ? y2 : static_cast<float>(pointY(b)));
+        cubicTo(
+            static_cast<float>(pointX(a) + slopeX(a)), static_cast<float>(pointY(a) + slopeY(a)),
+            static_cast<float>(pointX(b) - slopeX(b)), static_cast<float>(pointY(b) - slopeY(b)),
+            isLast ? x2 : static_cast<float>(pointX(b)),
+            isLast ? y2 : static_cast<float>(pointY(b)));
     }
 }
 

@@ -1,9 +1,9 @@
 // Paths from a script's point lists.
 #include <cmath>
 
+#include "graphics/vxAllocationGuard.h"
 #include "graphics/vxLineShape.h"
 #include "graphics/vxPath2DOLD.h"
-#include "graphics/vxAllocationGuard.h"
 #include "script/vxAssign.h"
 
 namespace Velarix {
@@ -11,6 +11,8 @@ namespace Velarix {
 namespace {
 
 constexpr double kRadiansPerDegree = 0.017453292519943295;
+// A script's multigon has at most this many corners.
+constexpr long kMaxCorners = 10000;
 
 // The points of a list laid out all x then all y (layout 1) or in pairs.
 void splitPoints(const std::vector<float>& numbers, short layout, std::vector<float>& xs,
@@ -69,6 +71,7 @@ bool vxPath2DOLD::assignPath(short kind, vxAssign& assign, float tension) {
 void vxPath2DOLD::assignMultigon(const std::vector<float>& v) {
     if (v.size() < 5) return;
     const long n = std::lround(v[0]);
+    if (n > kMaxCorners) return;
     const float angle = static_cast<float>(v[1] * kRadiansPerDegree);
     const float ry = v.size() > 5 ? v[5] : v[4];
     const float ratio = v.size() > 6 ? v[6] : 1.0f;

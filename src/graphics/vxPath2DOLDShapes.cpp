@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxAllocationGuard.h"
+#include "graphics/vxPath2DOLD.h"
 
 namespace Velarix {
 
@@ -56,8 +56,7 @@ void vxPath2DOLD::lineToIfMoved(float px, float py) {
 
 // Each cubic of angle d takes its control points along the tangents, at
 // k = 4/3 tan(d/4) times the derivative by angle.
-void vxPath2DOLD::arcSegments(double cx, double cy, double rx, double ry, double a0,
-                              double sweep) {
+void vxPath2DOLD::arcSegments(double cx, double cy, double rx, double ry, double a0, double sweep) {
     const long n = std::max(1L, static_cast<long>(std::ceil(std::fabs(sweep) / kQuarter - 1e-6)));
     const double d = sweep / n;
     const double k = 4.0 / 3.0 * std::tan(d / 4.0);
@@ -77,8 +76,9 @@ void vxPath2DOLD::arcSegments(double cx, double cy, double rx, double ry, double
 
 void vxPath2DOLD::addMultigon(long n, float startAngle, float cx, float cy, float rx, float ry,
                               float innerRatio, float innerOffset) {
-    vxGuardAllocation(*this, L"addMultigon", 1,
-            [&] { buildMultigon(n, startAngle, cx, cy, rx, ry, innerRatio, innerOffset); });
+    vxGuardAllocation(*this, L"addMultigon", 1, [&] {
+        buildMultigon(n, startAngle, cx, cy, rx, ry, innerRatio, innerOffset);
+    });
 }
 
 void vxPath2DOLD::buildMultigon(long n, float startAngle, float cx, float cy, float rx, float ry,

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxAllocationGuard.h"
+#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxSmoothingTables.h"
 
 namespace Velarix {
@@ -51,7 +51,7 @@ void vxPath2DOLD::addSmoothPolygon(const std::vector<float>& xs, const std::vect
 void vxPath2DOLD::addSmoothPolygon(const std::vector<float>& xs, const std::vector<float>& ys,
                                    long start, long count, bool doClose, float tension) {
     vxGuardAllocation(*this, L"addSmoothPolygon", 1,
-            [&] { buildSmooth(xs, ys, start, count, doClose, tension); });
+                      [&] { buildSmooth(xs, ys, start, count, doClose, tension); });
 }
 
 // The control points are p(i) -/+ D(i) tension before and after each point.
@@ -59,8 +59,8 @@ void vxPath2DOLD::addSmoothPolygon(const std::vector<float>& xs, const std::vect
 // p(N-1), 3N - 2 points; a closed one goes on with a(N-1) b0 p0, 3N + 1.
 void vxPath2DOLD::buildSmooth(const std::vector<float>& xs, const std::vector<float>& ys,
                               long start, long count, bool doClose, float tension) {
-    const long end = std::min<long>(start + count, static_cast<long>(std::min(xs.size(), ys.size())));
-    if (start < 0 || end - start < 2) return;
+    const long end = endOfRange(start, count, xs, ys);
+    if (end - start < 2) return;
     SmoothingInput in{xs.data() + start, ys.data() + start, end - start, doClose};
     const long last = in.n - 1;
     if (std::fabs(in.x[0] - in.x[last]) < 0.001f && std::fabs(in.y[0] - in.y[last]) < 0.001f) {

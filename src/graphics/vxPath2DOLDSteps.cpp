@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "graphics/vxAllocationGuard.h"
 #include "graphics/vxLineShape.h"
 #include "graphics/vxPath2DOLD.h"
-#include "graphics/vxAllocationGuard.h"
 
 namespace Velarix {
 
@@ -21,14 +21,12 @@ struct OrientedRange {
     const float* v;
     long n;
 
-    OrientedRange(const std::vector<float>& xs, const std::vector<float>& ys, long start,
-                  long count, short orientation) {
+    OrientedRange(const std::vector<float>& xs, const std::vector<float>& ys, long start, long end,
+                  short orientation)
+        : n(end - start) {
         const bool isVertical = orientation == vxPath2DOLD::kVertical;
-        const long end =
-            std::min<long>(start + count, static_cast<long>(std::min(xs.size(), ys.size())));
-        n = start < 0 ? 0 : std::max(0L, end - start);
-        u = (isVertical ? ys.data() : xs.data()) + (n > 0 ? start : 0);
-        v = (isVertical ? xs.data() : ys.data()) + (n > 0 ? start : 0);
+        u = (isVertical ? ys.data() : xs.data()) + start;
+        v = (isVertical ? xs.data() : ys.data()) + start;
     }
 
     // Where the line starts before the first point: outdented by a fraction
@@ -78,11 +76,12 @@ void vxPath2DOLD::addStepPolygon(const std::vector<float>& xs, const std::vector
     });
 }
 
-void vxPath2DOLD::buildSteps(const std::vector<float>& xs, const std::vector<float>& ys,
-                             long start, long count, short orientation, float startOutdent,
-                             float endOutdent, float stepPosition) {
-    const OrientedRange r(xs, ys, start, count, orientation);
-    if (r.n == 0) return;
+void vxPath2DOLD::buildSteps(const std::vector<float>& xs, const std::vector<float>& ys, long start,
+                             long count, short orientation, float startOutdent, float endOutdent,
+                             float stepPosition) {
+    const long end = endOfRange(start, count, xs, ys);
+    if (end - start < 1) return;
+    const OrientedRange r(xs, ys, start, end, orientation);
     if (r.n == 1) {
         addLonePoint(r.u[0], r.v[0], orientation, startOutdent, endOutdent);
         return;
@@ -116,12 +115,13 @@ void vxPath2DOLD::addJumpPolygon(const std::vector<float>& xs, const std::vector
     });
 }
 
-void vxPath2DOLD::buildJumps(const std::vector<float>& xs, const std::vector<float>& ys,
-                             long start, long count, short orientation, float startOutdent,
-                             float endOutdent, float shiftFactor, float lengthFactor) {
+void vxPath2DOLD::buildJumps(const std::vector<float>& xs, const std::vector<float>& ys, long start,
+                             long count, short orientation, float startOutdent, float endOutdent,
+                             float shiftFactor, float lengthFactor) {
     if (lengthFactor < kNoLength) return;
-    const OrientedRange r(xs, ys, start, count, orientation);
-    if (r.n == 0) return;
+    const long end = endOfRange(start, count, xs, ys);
+    if (end - start < 1) return;
+    const OrientedRange r(xs, ys, start, end, orientation);
     if (r.n == 1) {
         addLonePoint(r.u[0], r.v[0], orientation, startOutdent, endOutdent);
         return;

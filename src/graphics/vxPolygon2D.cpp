@@ -91,21 +91,21 @@ void vxPolygon2D::calculateBounds(float b[4]) const {
 }
 
 void vxPolygon2D::fillShape(vxDevice& device, const vxPaintOLD& paint, const float b[4]) {
-    device.fillPolygon2D(paint, x, y, b, windingRule);
+    if (getNumOfPoints() > 0) device.fillPolygon2D(paint, x, y, b, windingRule);
 }
 
 void vxPolygon2D::fillShape(vxDevice& device, const vxShadowOLD& shadow, const float b[4]) {
-    device.fillPolygon2D(shadow, x, y, b, windingRule);
+    if (getNumOfPoints() > 0) device.fillPolygon2D(shadow, x, y, b, windingRule);
 }
 
-void vxPolygon2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
-                               const vxPaintOLD& paint, const float b[4]) {
-    device.drawPolygon2D(stroke, paint, x, y, b, doClose);
+void vxPolygon2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                               const float b[4]) {
+    if (getNumOfPoints() > 0) device.drawPolygon2D(stroke, paint, x, y, b, doClose);
 }
 
 void vxPolygon2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
                                const vxShadowOLD& shadow, const float b[4]) {
-    device.drawPolygon2D(stroke, shadow, x, y, b, doClose);
+    if (getNumOfPoints() > 0) device.drawPolygon2D(stroke, shadow, x, y, b, doClose);
 }
 
 void vxPolygon2D::copy(const vxPolygon2D* from) {

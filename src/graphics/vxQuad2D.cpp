@@ -48,10 +48,10 @@ void vxQuad2D::setCorner(int index, float px, float py) {
 }
 
 bool vxQuad2D::isAxisAligned() const {
-    const bool upright = isSame(x[0], x[3]) && isSame(x[1], x[2]) && isSame(y[0], y[1]) &&
-                         isSame(y[2], y[3]);
-    const bool across = isSame(x[0], x[1]) && isSame(x[2], x[3]) && isSame(y[1], y[2]) &&
-                        isSame(y[3], y[0]);
+    const bool upright =
+        isSame(x[0], x[3]) && isSame(x[1], x[2]) && isSame(y[0], y[1]) && isSame(y[2], y[3]);
+    const bool across =
+        isSame(x[0], x[1]) && isSame(x[2], x[3]) && isSame(y[1], y[2]) && isSame(y[3], y[0]);
     return upright || across;
 }
 
@@ -86,8 +86,8 @@ void vxQuad2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const v
     device.drawPolygon2D(stroke, paint, x, y, b, true);
 }
 
-void vxQuad2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
-                            const vxShadowOLD& shadow, const float b[4]) {
+void vxQuad2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                            const float b[4]) {
     device.drawPolygon2D(stroke, shadow, x, y, b, true);
 }
 

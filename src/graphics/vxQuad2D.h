@@ -23,8 +23,6 @@ public:
     void set(const float xs[4], const float ys[4]);
     // Corner 0 to 3; other indexes do nothing.
     void setCorner(int index, float px, float py);
-    float getX(int index) const { return x[index & 3]; }
-    float getY(int index) const { return y[index & 3]; }
     const std::vector<float>& getX() const { return x; }
     const std::vector<float>& getY() const { return y; }
     // Whether the sides run along the axes (within 0.001).

@@ -59,12 +59,8 @@ TEST(vxPath2DOLDJumps, EachPointGetsItsOwnPiece) {
     // Half length, a quarter ahead: back 0.375, ahead 0.125 of each gap.
     vxPath2DOLD short_;
     short_.addJumpPolygon(kXs, kYs, vxPath2DOLD::kHorizontal, 0, 0, 0.25f, 0.5f);
-    EXPECT_TRUE(hasPoints(short_, {{0, 0},
-                                   {1.25f, 0},
-                                   {6.25f, 10},
-                                   {11.25f, 10},
-                                   {16.25f, 5},
-                                   {20, 5}}));
+    EXPECT_TRUE(
+        hasPoints(short_, {{0, 0}, {1.25f, 0}, {6.25f, 10}, {11.25f, 10}, {16.25f, 5}, {20, 5}}));
 
     vxPath2DOLD skipped;
     skipped.addJumpPolygon(kXs, kYs, vxPath2DOLD::kHorizontal, 1, 1, 0.5f, 0.00005f);
@@ -259,7 +255,7 @@ TEST(vxPath2DOLDArc, FlagsChooseOneOfFourArcs) {
 TEST(vxPath2DOLDArc, DegenerateArcsDrawNothing) {
     vxPath2DOLD path;
     path.moveTo(10, 10);
-    path.arcTo(50, 50, 0, false, true, 10.005f, 10);  // same point
+    path.arcTo(50, 50, 0, false, true, 10.005f, 10);   // same point
     path.arcTo(0.00005f, 50, 0, false, true, 60, 10);  // no radius
     path.arcTo(50, 50, 0, false, true, 10.05f, 10);    // too small to see
     EXPECT_EQ(path.getVerbs(), (Verbs{2}));

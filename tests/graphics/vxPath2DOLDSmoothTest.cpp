@@ -77,9 +77,9 @@ TEST(vxPath2DOLDSmooth, NinePointsUseTheRowOfEight) {
 // A closed square reads the row of N = 4, 0.25, with indices wrapping:
 // D0 = 0.25 (p1 - p3) = (2.5, -2.5), and so on round the square.
 TEST(vxPath2DOLDSmooth, ClosedCurvesWrapAndRepeatTheirStart) {
-    const std::vector<Point> expected = {{0, 0},     {2.5f, -2.5f}, {7.5f, -2.5f}, {10, 0},
-                                         {12.5f, 2.5f}, {12.5f, 7.5f}, {10, 10},  {7.5f, 12.5f},
-                                         {2.5f, 12.5f}, {0, 10},    {-2.5f, 7.5f}, {-2.5f, 2.5f},
+    const std::vector<Point> expected = {{0, 0},        {2.5f, -2.5f}, {7.5f, -2.5f}, {10, 0},
+                                         {12.5f, 2.5f}, {12.5f, 7.5f}, {10, 10},      {7.5f, 12.5f},
+                                         {2.5f, 12.5f}, {0, 10},       {-2.5f, 7.5f}, {-2.5f, 2.5f},
                                          {0, 0}};
     vxPath2DOLD closed;
     closed.addSmoothPolygon({0, 10, 10, 0}, {0, 0, 10, 10}, true);

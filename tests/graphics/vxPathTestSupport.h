@@ -46,8 +46,8 @@ inline ::testing::AssertionResult hasBounds(vxGObjectOLD& object,
     const std::vector<float> b = boundsOf(object);
     for (size_t i = 0; i < 4; ++i) {
         if (std::fabs(b[i] - expected[i]) > tolerance) {
-            return ::testing::AssertionFailure() << "bounds " << b[0] << " " << b[1] << " "
-                                                 << b[2] << " " << b[3];
+            return ::testing::AssertionFailure()
+                   << "bounds " << b[0] << " " << b[1] << " " << b[2] << " " << b[3];
         }
     }
     return ::testing::AssertionSuccess();
