@@ -8,6 +8,7 @@
 #include "host/vxLog.h"
 #include "output/vxWriteExternal.h"
 #include "output/vxWriteStream.h"
+#include "platform/vxImageEncoder.h"
 #include "settings/vxRenderingSettings.h"
 #include "settings/vxUserSettings.h"
 
@@ -27,7 +28,7 @@ bool isPictureFormat(short format) {
 
 // GIF, JPEG and BMP keep no alpha: their picture is laid on white.
 bool hasAlpha(short format) {
-    return format == kFormatPNG || format == kFormatTIFF;
+    return vxFormatHasAlpha(static_cast<vxImageFormat>(format));
 }
 
 // A size in whole pixels; the largest picture that cairo makes is 32767
@@ -218,7 +219,7 @@ bool vxDeviceGDIPlus::writeTarget(vxWriteExternal& target) {
         return true;
     };
     std::vector<unsigned char> bytes;
-    if (!encode(target.getFormat(), bytes)) return false;
+    if (!encode(target, bytes)) return false;
     if (target.getType() == kTargetStream) {
         if (auto* stream = dynamic_cast<vxWriteStream*>(&target)) {
             stream->setSize(getWidth(), getHeight());
@@ -234,10 +235,32 @@ bool vxDeviceGDIPlus::writeTarget(vxWriteExternal& target) {
     return !failed();
 }
 
-bool vxDeviceGDIPlus::encode(short format, std::vector<unsigned char>& bytes) {
+// The target's resolution and, for JPEG, its quality go to the encoder
+// where they are set; else the encoder's defaults hold.
+bool vxDeviceGDIPlus::encode(const vxWriteExternal& target, std::vector<unsigned char>& bytes) {
+    const short format = target.getFormat();
     cairo_surface_t* image = getPicture(!hasAlpha(format));
     if (!image) return false;
-    fail(vxErrFile::kUnknownFormat, L"encode", 1);
+    if (pixelWidth == 0 || pixelHeight == 0) {
+        fail(vxErrChart::kImageDimension, L"encode", 1);
+        return false;
+    }
+    cairo_surface_flush(image);
+    vxRasterPixels pixels;
+    pixels.data = cairo_image_surface_get_data(image);
+    pixels.width = cairo_image_surface_get_width(image);
+    pixels.height = cairo_image_surface_get_height(image);
+    pixels.stride = cairo_image_surface_get_stride(image);
+    vxEncoderOptions options;
+    if (target.getResolution() > 0) options.resolution = target.getResolution();
+    if (format == kFormatJPEG && target.getCompressionQuality() > 0) {
+        options.quality = target.getCompressionQuality();
+    }
+    std::string status;
+    if (vxEncodeImage(static_cast<vxImageFormat>(format), pixels, options, bytes, status)) {
+        return true;
+    }
+    fail(vxErrFile::kWrite, L"encode", 2, std::wstring(status.begin(), status.end()));
     return false;
 }
 

@@ -157,7 +157,8 @@ private:
     void makePicture(bool onWhite);
     void writeTargets();
     bool writeTarget(vxWriteExternal& target);
-    bool encode(short format, std::vector<unsigned char>& bytes);
+    // The picture in the target's format; false after reporting a fault.
+    bool encode(const vxWriteExternal& target, std::vector<unsigned char>& bytes);
     // Drops the picture and the drawing state of an earlier run.
     void discard();
     // The one funnel of the device's faults; the first fault stays.
