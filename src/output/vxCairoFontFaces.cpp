@@ -40,7 +40,8 @@ cairo_font_face_t* vxCairoFontFaces::cairoFaceOf(vxFontFace& face) {
     if (found != cairoFaces.end()) return found->second.get();
     vxCairoFontFace made(cairo_ft_font_face_create_for_ft_face(face.getFTFace(), kLoadFlags));
     if (cairo_font_face_status(made.get()) != CAIRO_STATUS_SUCCESS) return nullptr;
-    if (face.isSyntheticBold()) cairo_ft_font_face_set_synthesize(made.get(), CAIRO_FT_SYNTHESIZE_BOLD);
+    if (face.isSyntheticBold())
+        cairo_ft_font_face_set_synthesize(made.get(), CAIRO_FT_SYNTHESIZE_BOLD);
     return cairoFaces.emplace(&face, std::move(made)).first->second.get();
 }
 

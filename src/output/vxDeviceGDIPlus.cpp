@@ -165,9 +165,10 @@ void vxDeviceGDIPlus::close() {
     clipMask.reset();
     clipPaths.clear();
     if (!drawn) return;
+    // The pictures are made as the targets ask for them: a large drawing
+    // written only as JPEG never needs the one with alpha.
     isClosed = true;
-    makePicture(false);
-    if (!isError()) writeTargets();
+    writeTargets();
 }
 
 cairo_surface_t* vxDeviceGDIPlus::getPicture(bool onWhite) {

@@ -198,8 +198,8 @@ bool vxDeviceGDIPlus::setUpHatchBrush(const vxBasicPaint& paint) {
 bool vxDeviceGDIPlus::setUpLinearGradientBrush(const vxGradientPaint& paint,
                                                const float bounds[4]) {
     const auto& linear = static_cast<const vxLinearGradient&>(paint);
-    vxCairoPattern pattern(
-        cairo_pattern_create_linear(linear.getX1(), linear.getY1(), linear.getX2(), linear.getY2()));
+    vxCairoPattern pattern(cairo_pattern_create_linear(linear.getX1(), linear.getY1(),
+                                                       linear.getX2(), linear.getY2()));
     return setUpGradientBrush(pattern.get(), paint, bounds, L"setUpLinearGradientBrush");
 }
 
@@ -208,9 +208,8 @@ bool vxDeviceGDIPlus::setUpLinearGradientBrush(const vxGradientPaint& paint,
 bool vxDeviceGDIPlus::setUpRadialGradientBrush(const vxGradientPaint& paint,
                                                const float bounds[4]) {
     const auto& radial = static_cast<const vxRadialGradient&>(paint);
-    vxCairoPattern pattern(cairo_pattern_create_radial(radial.getFX(), radial.getFY(), 0.0,
-                                                       radial.getCX(), radial.getCY(),
-                                                       radial.getRadius()));
+    vxCairoPattern pattern(cairo_pattern_create_radial(
+        radial.getFX(), radial.getFY(), 0.0, radial.getCX(), radial.getCY(), radial.getRadius()));
     return setUpGradientBrush(pattern.get(), paint, bounds, L"setUpRadialGradientBrush");
 }
 

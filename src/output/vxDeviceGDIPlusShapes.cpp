@@ -279,8 +279,8 @@ void vxDeviceGDIPlus::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD&
     strokePolygon(stroke, paint, x, y, bounds, doClose, Offset{});
 }
 
-void vxDeviceGDIPlus::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x,
-                                    const vxPoints& y, const float bounds[4], short windingRule) {
+void vxDeviceGDIPlus::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
+                                    const float bounds[4], short windingRule) {
     if (const vxPaintOLD* paint = shadow.getPaint())
         fillPolygon(*paint, x, y, bounds, windingRule, offsetOf(shadow));
 }
@@ -303,9 +303,8 @@ void vxDeviceGDIPlus::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& pa
     strokePath(stroke, paint, verbs, x, y, bounds, Offset{});
 }
 
-void vxDeviceGDIPlus::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs,
-                                 const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                 short windingRule) {
+void vxDeviceGDIPlus::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
+                                 const vxPoints& y, const float bounds[4], short windingRule) {
     if (const vxPaintOLD* paint = shadow.getPaint())
         fillPath(*paint, verbs, x, y, bounds, windingRule, offsetOf(shadow));
 }

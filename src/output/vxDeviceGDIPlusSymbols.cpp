@@ -148,8 +148,8 @@ void vxDeviceGDIPlus::drawSelectionKnobs(const vxSelectionKnobs& knobs) {
                           std::round(knobs.y[3])};
         const float bounds[4] = {x[0], y[0], x[2], y[2]};
         addPolyline(x, y, true, Offset{});
-        strokeShape(vxBasicStroke(1.0f), vxBasicPaint(kKnobFrameGray, kKnobFrameGray, kKnobFrameGray),
-                    bounds);
+        strokeShape(vxBasicStroke(1.0f),
+                    vxBasicPaint(kKnobFrameGray, kKnobFrameGray, kKnobFrameGray), bounds);
     }
     const vxBasicPaint black(0, 0, 0);
     cairo_new_path(cr.get());

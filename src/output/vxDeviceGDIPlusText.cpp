@@ -68,8 +68,8 @@ unsigned long glyphIndexOf(FT_Face face, char32_t c) {
 // one line height lower. A rotation turns the block about the centre of
 // the bounds.
 void vxDeviceGDIPlus::drawString2D(const std::wstring& text, const vxFontOLD& font,
-                                   const vxPaintOLD& paint, const float bounds[4],
-                                   short hAlignment, short vAlignment, float orientation) {
+                                   const vxPaintOLD& paint, const float bounds[4], short hAlignment,
+                                   short vAlignment, float orientation) {
     if (!isDrawing() || text.empty() || drawsNothing(paint)) return;
     const float size = font.getSize();
     if (!(size > 0.0f) || !std::isfinite(size)) return;
@@ -138,10 +138,12 @@ void vxDeviceGDIPlus::showLine(vxFontFace& face, const std::wstring& line, doubl
     double advance = 0.0;
     for (size_t i = 0; i < line.size(); ++i) {
         const char32_t c = codePointAt(line, i);
-        if (!isControl(c)) glyphs.push_back({glyphIndexOf(ftFace, c), x + advance * scale, baseline});
+        if (!isControl(c))
+            glyphs.push_back({glyphIndexOf(ftFace, c), x + advance * scale, baseline});
         advance += face.getAdvance(c);
     }
-    if (!glyphs.empty()) cairo_show_glyphs(cr.get(), glyphs.data(), static_cast<int>(glyphs.size()));
+    if (!glyphs.empty())
+        cairo_show_glyphs(cr.get(), glyphs.data(), static_cast<int>(glyphs.size()));
 }
 
 // A bar under the line where the font puts its underline, as thick as the

@@ -1,9 +1,8 @@
 // The raster device, judged by the pixels of its finished picture.
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "graphics/vxCombinedStroke.h"
+#include "graphics/vxFontOLD.h"
 #include "graphics/vxSelectionKnobs.h"
 #include "graphics/vxShadowOLD.h"
 #include "output/vxRasterTestSupport.h"
@@ -13,386 +12,258 @@ namespace {
 
 const float kNoBounds[4] = {0, 0, 0, 0};
 
-// The comparator itself: a shift by one pixel and a change of one step of
-// brightness are seen, an identical picture is not.
+// The comparator itself: it sees a shift by one pixel and one step of
+// brightness, and nothing in an identical picture.
 TEST(vxRasterTestSupport, MaxDifferenceSeesShiftsAndBrightness) {
-    auto draw = [](float left, short red) {
-        auto device = openDevice(20, 20);
-        fillRect(*device, *rgba(red, 0, 0), left, 5, left + 5, 10);
-        device->close();
-        return cairo_surface_reference(device->getPicture());
+    auto rect = [](float left, short red) {
+        return draw(20, 20,
+                    [&](vxDevice& d) { fillRect(d, *rgba(red, 0, 0), left, 5, left + 5, 10); });
     };
-    cairo_surface_t* base = draw(5, 200);
-    cairo_surface_t* same = draw(5, 200);
-    cairo_surface_t* shifted = draw(6, 200);
-    cairo_surface_t* brighter = draw(5, 201);
-    EXPECT_EQ(maxDifference(base, same), 0);
-    EXPECT_EQ(maxDifference(base, shifted), 255);
-    EXPECT_EQ(maxDifference(base, brighter), 1);
-    for (cairo_surface_t* s : {base, same, shifted, brighter}) cairo_surface_destroy(s);
+    const Drawn base = rect(5, 200);
+    EXPECT_EQ(maxDifference(base.picture, rect(5, 200).picture), 0);
+    EXPECT_EQ(maxDifference(base.picture, rect(6, 200).picture), 255);
+    EXPECT_EQ(maxDifference(base.picture, rect(5, 201).picture), 1);
 }
 
-// Red inside; outside, transparent on a bitmap as on a record played for
-// PNG, and opaque white where the picture is laid on white.
+// Red inside; outside transparent, or opaque white where the picture is
+// laid on white for the formats without alpha.
 TEST(vxDeviceGDIPlus, FilledRectangleOnEitherRoute) {
     for (Route route : {Route::kBitmap, Route::kRecorded}) {
-        auto device = openDevice(40, 30, route);
-        fillRect(*device, *rgba(255, 0, 0), 10, 10, 30, 20);
-        cairo_surface_t* picture = finish(*device);
-        ASSERT_NE(picture, nullptr);
-        EXPECT_EQ(cairo_image_surface_get_width(picture), 40);
-        EXPECT_EQ(cairo_image_surface_get_height(picture), 30);
-        EXPECT_TRUE(isNear(pixelAt(picture, 10, 10), 255, 0, 0, 255));
-        EXPECT_TRUE(isNear(pixelAt(picture, 29, 19), 255, 0, 0, 255));
-        EXPECT_EQ(pixelAt(picture, 9, 15).a, 0);
-        EXPECT_EQ(pixelAt(picture, 30, 15).a, 0);
-        EXPECT_EQ(pixelAt(picture, 20, 20).a, 0);
-        cairo_surface_t* onWhite = device->getPicture(true);
+        const Drawn d = draw(
+            40, 30, [](vxDevice& d) { fillRect(d, *rgba(255, 0, 0), 10, 10, 30, 20); }, route);
+        ASSERT_NE(d.picture, nullptr);
+        EXPECT_EQ(cairo_image_surface_get_width(d.picture), 40);
+        EXPECT_TRUE(isNear(d.at(10, 10), 255, 0, 0, 255));
+        EXPECT_TRUE(isNear(d.at(29, 19), 255, 0, 0, 255));
+        EXPECT_EQ(d.alpha(9, 15) + d.alpha(30, 15) + d.alpha(20, 20), 0);
+        cairo_surface_t* onWhite = d.device->getPicture(true);
         EXPECT_TRUE(isNear(pixelAt(onWhite, 0, 0), 255, 255, 255, 255));
         EXPECT_TRUE(isNear(pixelAt(onWhite, 20, 15), 255, 0, 0, 255));
-        EXPECT_FALSE(device->isError());
     }
 }
 
-TEST(vxDeviceGDIPlus, PictureExistsOnlyAfterClose) {
-    vxDeviceGDIPlus device;
-    EXPECT_EQ(device.getDeviceID(), 4);
-    device.setSize(10.4f, 9.6f);
-    device.setIsBitmap(true);
-    EXPECT_EQ(device.getPicture(), nullptr);
-    device.open();
-    fillRect(device, *rgba(0, 0, 0), 0, 0, 5, 5);
-    EXPECT_EQ(device.getPicture(), nullptr);
-    device.close();
-    ASSERT_NE(device.getPicture(), nullptr);
-    EXPECT_EQ(cairo_image_surface_get_width(device.getPicture()), 10);
-    EXPECT_EQ(cairo_image_surface_get_height(device.getPicture()), 10);
-    device.open();
-    EXPECT_EQ(device.getPicture(), nullptr);
-}
-
-TEST(vxDeviceGDIPlus, PictureTooLargeIsAnImageDimensionError) {
-    auto device = openDevice(40000, 10);
-    EXPECT_TRUE(device->isError());
-    EXPECT_EQ(device->getError()->getErrorCode(), vxErrChart::kImageDimension);
-    fillRect(*device, *rgba(0, 0, 0), 0, 0, 5, 5);
-    device->close();
-    EXPECT_EQ(device->getPicture(), nullptr);
-}
-
-// The same shapes on whole pixels drawn on both routes give the same
-// picture: the record keeps what the bitmap draws directly.
-TEST(vxDeviceGDIPlus, RoutesAgreeOnWholePixels) {
-    auto draw = [](Route route) {
-        auto device = openDevice(60, 40, route, 1);
-        fillRect(*device, *rgba(0, 128, 255, 200), 5, 5, 40, 30);
-        device->drawLine2D(*buttStroke(2), *rgba(255, 0, 0), 0, 35, 60, 2);
-        device->drawPolygon2D(*buttStroke(3), *rgba(0, 0, 0), {10, 50, 30}, {30, 30, 5}, kNoBounds,
-                              true);
-        device->close();
-        return cairo_surface_reference(device->getPicture());
+// On whole pixels the record gives what the bitmap draws directly; off
+// them the bitmap rounds, and the record half covers a pixel.
+TEST(vxDeviceGDIPlus, RoutesAndRounding) {
+    auto scene = [](vxDevice& d) {
+        fillRect(d, *rgba(0, 128, 255, 200), 5, 5, 40, 30);
+        d.drawLine2D(*buttStroke(2), *rgba(255, 0, 0), 0, 35, 60, 2);
+        d.drawPolygon2D(*buttStroke(3), *rgba(0, 0, 0), {10, 50, 30}, {30, 30, 5}, kNoBounds, true);
     };
-    cairo_surface_t* bitmap = draw(Route::kBitmap);
-    cairo_surface_t* recorded = draw(Route::kRecorded);
-    EXPECT_EQ(maxDifference(bitmap, recorded), 0);
-    cairo_surface_destroy(bitmap);
-    cairo_surface_destroy(recorded);
+    EXPECT_EQ(maxDifference(draw(60, 40, scene, Route::kBitmap, 1).picture,
+                            draw(60, 40, scene, Route::kRecorded, 1).picture),
+              0);
+    auto offPixels = [](vxDevice& d) { fillRect(d, *rgba(0, 0, 0), 2.4f, 2, 10.5f, 8); };
+    const Drawn bitmap = draw(20, 10, offPixels, Route::kBitmap, 1);
+    EXPECT_EQ(bitmap.alpha(1, 5) + bitmap.alpha(11, 5), 0);
+    EXPECT_EQ(bitmap.alpha(2, 5) + bitmap.alpha(10, 5), 510);
+    EXPECT_NEAR(draw(20, 10, offPixels, Route::kRecorded, 1).alpha(10, 5), 128, 2);
 }
 
-// A bitmap rounds coordinates to whole pixels; a record keeps them, and a
-// half-covered pixel comes out half covered.
-TEST(vxDeviceGDIPlus, BitmapRoundsCoordinates) {
-    auto bitmap = openDevice(20, 10, Route::kBitmap, 1);
-    fillRect(*bitmap, *rgba(0, 0, 0), 2.4f, 2, 10.6f, 8);
-    cairo_surface_t* picture = finish(*bitmap);
-    EXPECT_EQ(pixelAt(picture, 1, 5).a, 0);
-    EXPECT_EQ(pixelAt(picture, 2, 5).a, 255);
-    EXPECT_EQ(pixelAt(picture, 10, 5).a, 255);
-    EXPECT_EQ(pixelAt(picture, 11, 5).a, 0);
-
-    auto recorded = openDevice(20, 10, Route::kRecorded, 1);
-    fillRect(*recorded, *rgba(0, 0, 0), 2.5f, 2, 10.5f, 8);
-    picture = finish(*recorded);
-    EXPECT_NEAR(pixelAt(picture, 2, 5).a, 128, 2);
-    EXPECT_NEAR(pixelAt(picture, 10, 5).a, 128, 2);
-}
-
-// A line of width 1 on a whole-pixel y covers half of two pixel rows:
-// without antialiasing one row takes it whole, with it both are blended.
+// A line of width 1 on a whole-pixel y lies half in two pixel rows: one
+// row takes it whole without antialiasing, both share it with.
 TEST(vxDeviceGDIPlus, ThinLineIsSharpWithoutAntialiasing) {
     for (short antialiasing : {0, 1}) {
-        auto device = openDevice(50, 20, Route::kBitmap, antialiasing);
-        device->drawLine2D(*buttStroke(1), *rgba(0, 0, 0), 5, 10, 45, 10);
-        cairo_surface_t* picture = finish(*device);
-        const int above = pixelAt(picture, 20, 9).a, below = pixelAt(picture, 20, 10).a;
+        const Drawn d = draw(
+            50, 20,
+            [](vxDevice& d) { d.drawLine2D(*buttStroke(1), *rgba(0, 0, 0), 5, 10, 45, 10); },
+            Route::kBitmap, antialiasing);
+        const int above = d.alpha(20, 9), below = d.alpha(20, 10);
         if (antialiasing == 0) {
-            EXPECT_EQ(above + below, 255) << above << " " << below;
-            EXPECT_TRUE(above == 0 || below == 0);
+            EXPECT_TRUE((above == 255 && below == 0) || (above == 0 && below == 255));
         } else {
             EXPECT_NEAR(above, 128, 2);
             EXPECT_NEAR(below, 128, 2);
         }
-        EXPECT_EQ(pixelAt(picture, 20, 8).a, 0);
-        EXPECT_EQ(pixelAt(picture, 20, 11).a, 0);
-        EXPECT_EQ(pixelAt(picture, 4, 9).a + pixelAt(picture, 4, 10).a, 0);
+        EXPECT_EQ(d.alpha(20, 8) + d.alpha(20, 11) + d.alpha(4, 9) + d.alpha(4, 10), 0);
     }
 }
 
-TEST(vxDeviceGDIPlus, NoPartialPixelsWithoutAntialiasing) {
-    auto device = openDevice(50, 50, Route::kRecorded, 0);
-    device->drawLine2D(*buttStroke(3), *rgba(0, 0, 0), 3, 7, 47, 41);
-    device->fillPolygon2D(*rgba(0, 0, 0), {10, 40, 25}, {45, 42, 20}, kNoBounds, 1);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_EQ(countOf(picture, [](const Pixel& p) { return p.a != 0 && p.a != 255; }), 0);
-    EXPECT_GT(countOf(picture, isInked), 100);
-}
-
-// Nothing of a zero-width stroke, a none paint, a line whose ends meet or
-// a symbol of an unknown type reaches the picture.
+// A zero-width stroke, a none paint, a line whose ends meet, an unknown
+// symbol type and a text of empty lines leave no trace.
 TEST(vxDeviceGDIPlus, CommonRulesLeaveNoTrace) {
-    auto device = openDevice(30, 30, Route::kBitmap, 1);
-    vxBasicStroke zero(0.0f);
-    device->drawLine2D(zero, *rgba(0, 0, 0), 0, 0, 30, 30);
-    device->drawLine2D(*buttStroke(5), *rgba(0, 0, 0, 255, 1), 0, 0, 30, 30);
-    device->drawLine2D(*buttStroke(5), *rgba(0, 0, 0, 0), 0, 0, 30, 30);
-    device->drawLine2D(*buttStroke(5), *rgba(0, 0, 0), 10, 10, 10.0005f, 10.0005f);
-    fillRect(*device, *rgba(0, 0, 0, 255, 1), 0, 0, 30, 30);
-    device->drawSymbol(*buttStroke(1), *rgba(0, 0, 0), *rgba(0, 0, 0), 0, 10, 15, 15);
-    device->drawSymbol(*buttStroke(1), *rgba(0, 0, 0), *rgba(0, 0, 0), 19, 10, 15, 15);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_EQ(countOf(picture, isInked), 0);
-    EXPECT_FALSE(device->isError());
+    const Drawn d = draw(
+        30, 30,
+        [](vxDevice& d) {
+            d.drawLine2D(vxBasicStroke(0.0f), *rgba(0, 0, 0), 0, 0, 30, 30);
+            d.drawLine2D(*buttStroke(5), *rgba(0, 0, 0, 255, 1), 0, 0, 30, 30);
+            d.drawLine2D(*buttStroke(5), *rgba(0, 0, 0, 0), 0, 0, 30, 30);
+            d.drawLine2D(*buttStroke(5), *rgba(0, 0, 0), 10, 10, 10.0005f, 10.0005f);
+            fillRect(d, *rgba(0, 0, 0, 255, 1), 0, 0, 30, 30);
+            for (short type : {0, 19})
+                d.drawSymbol(*buttStroke(1), *rgba(0, 0, 0), *rgba(0, 0, 0), type, 10, 15, 15);
+            const vxFontOLD font(L"Arial", 12, vxFontOLD::kPlain);
+            const float bounds[4] = {0, 0, 30, 30};
+            d.drawString2D(L"\r\r", font, *rgba(0, 0, 0), bounds, 1, 1, 0.0f);
+            d.drawString2D(L"x", font, *rgba(0, 0, 0, 0), bounds, 1, 1, 0.0f);
+        },
+        Route::kBitmap, 1);
+    EXPECT_EQ(boxOf(d.picture, isInked).count, 0);
+    EXPECT_FALSE(d.device->isError());
 }
 
-// Pattern 1 of 5 on and 2 off, in multiples of the line width.
-TEST(vxDeviceGDIPlus, DashedLineHasGapsScaledByItsWidth) {
+// Dash pattern 1, 5 on and 2 off, in multiples of the line width; a
+// combined stroke draws its strokes one over the other.
+TEST(vxDeviceGDIPlus, DashedAndCombinedStrokes) {
     for (float width : {1.0f, 2.0f}) {
-        auto device = openDevice(60, 10, Route::kRecorded, 0);
         auto stroke = buttStroke(width);
         stroke->setDashStyle(1);
-        device->drawLine2D(*stroke, *rgba(0, 0, 0), 0, 5.5f, 60, 5.5f);
-        cairo_surface_t* picture = finish(*device);
-        const int on = static_cast<int>(5 * width), off = static_cast<int>(2 * width);
-        for (int x = 0; x < 2 * (on + off); ++x) {
-            const bool isDash = x % (on + off) < on;
-            EXPECT_EQ(pixelAt(picture, x, 5).a, isDash ? 255 : 0) << "width " << width << " x " << x;
-        }
+        const Drawn d = draw(
+            60, 10, [&](vxDevice& d) { d.drawLine2D(*stroke, *rgba(0, 0, 0), 0, 5.5f, 60, 5.5f); },
+            Route::kRecorded);
+        const int on = static_cast<int>(5 * width), period = static_cast<int>(7 * width);
+        for (int x = 0; x < 2 * period; ++x)
+            EXPECT_EQ(d.alpha(x, 5), x % period < on ? 255 : 0) << "width " << width << ", " << x;
     }
-}
-
-// Caps: butt ends at the end point, square reaches half the width beyond.
-TEST(vxDeviceGDIPlus, CapsAndJoins) {
-    auto device = openDevice(60, 60, Route::kBitmap, 0);
-    auto square = buttStroke(6);
-    square->setLineCap(vxStrokeOLD::kSquareCap);
-    device->drawLine2D(*buttStroke(6), *rgba(0, 0, 0), 10, 10, 50, 10);
-    device->drawLine2D(*square, *rgba(0, 0, 0), 10, 30, 50, 30);
-    auto miter = buttStroke(6);
-    miter->setLineJoin(vxStrokeOLD::kMiterJoin);
-    auto bevel = buttStroke(6);
-    bevel->setLineJoin(vxStrokeOLD::kBevelJoin);
-    device->drawPolygon2D(*miter, *rgba(0, 0, 0), {10, 20, 20}, {45, 45, 55}, kNoBounds, false);
-    device->drawPolygon2D(*bevel, *rgba(0, 0, 0), {35, 45, 45}, {45, 45, 55}, kNoBounds, false);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_EQ(pixelAt(picture, 9, 10).a, 0);
-    EXPECT_EQ(pixelAt(picture, 50, 10).a, 0);
-    EXPECT_EQ(pixelAt(picture, 8, 30).a, 255);
-    EXPECT_EQ(pixelAt(picture, 52, 30).a, 255);
-    EXPECT_EQ(pixelAt(picture, 22, 43).a, 255);  // the miter's corner
-    EXPECT_EQ(pixelAt(picture, 47, 43).a, 0);    // cut off by the bevel
-}
-
-// A wide light stroke under a thin dark one.
-TEST(vxDeviceGDIPlus, CombinedStrokeDrawsEachStroke) {
     vxCombinedStroke combined;
-    auto wide = buttStroke(9);
-    auto thin = buttStroke(1);
-    ASSERT_TRUE(combined.addStroke(*wide));
-    ASSERT_TRUE(combined.addStroke(*thin));
-    auto device = openDevice(40, 20, Route::kBitmap, 0);
-    device->drawLine2D(combined, *rgba(0, 0, 255, 128), 5, 10, 35, 10);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_NEAR(pixelAt(picture, 20, 6).a, 128, 1);
+    ASSERT_TRUE(combined.addStroke(*buttStroke(9)) && combined.addStroke(*buttStroke(1)));
+    const Drawn d = draw(
+        60, 20, [&](vxDevice& d) { d.drawLine2D(combined, *rgba(0, 0, 255, 128), 5, 10, 55, 10); });
+    EXPECT_NEAR(d.alpha(20, 6), 128, 1);
     // Two layers of half alpha where the thin line lies on the wide one.
-    EXPECT_NEAR(std::max(pixelAt(picture, 20, 9).a, pixelAt(picture, 20, 10).a), 192, 2);
-    EXPECT_EQ(pixelAt(picture, 20, 3).a, 0);
+    EXPECT_NEAR(std::max(d.alpha(20, 9), d.alpha(20, 10)), 192, 2);
 }
 
 TEST(vxDeviceGDIPlus, PathsWithCurves) {
-    auto device = openDevice(60, 60, Route::kBitmap, 0);
-    const vxVerbs verbs = {2, 3, 4, 5, 1};
-    // From (10,10) right to (50,10), a quadratic bend down to (50,50), a
-    // cubic back to (10,50), closed.
-    const vxPoints x = {10, 50, 60, 50, 30, 20, 10};
-    const vxPoints y = {10, 10, 30, 50, 60, 60, 50};
-    const float bounds[4] = {10, 10, 60, 60};
-    device->fillPath2D(*rgba(0, 255, 0), verbs, x, y, bounds, 0);
-    device->drawPath2D(*buttStroke(1), *rgba(0, 0, 0), {2, 3}, {5, 55}, {3, 3}, bounds);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_TRUE(isNear(pixelAt(picture, 30, 30), 0, 255, 0, 255));
-    EXPECT_TRUE(isNear(pixelAt(picture, 53, 30), 0, 255, 0, 255));  // inside the bend
-    EXPECT_EQ(pixelAt(picture, 58, 30).a, 0);                      // the control point
-    EXPECT_EQ(pixelAt(picture, 30, 2).a + pixelAt(picture, 30, 3).a, 255);
+    // Right from (10,10) to (50,10), a quadratic bend through (60,30) down
+    // to (50,50), a cubic back to (10,50), closed; and a straight path.
+    const Drawn d = draw(60, 60, [](vxDevice& d) {
+        const float bounds[4] = {10, 10, 60, 60};
+        d.fillPath2D(*rgba(0, 255, 0), {2, 3, 4, 5, 1}, {10, 50, 60, 50, 30, 20, 10},
+                     {10, 10, 30, 50, 60, 60, 50}, bounds, 0);
+        d.drawPath2D(*buttStroke(1), *rgba(0, 0, 0), {2, 3}, {5, 55}, {3, 3}, bounds);
+    });
+    EXPECT_TRUE(isNear(d.at(30, 30), 0, 255, 0, 255));
+    EXPECT_TRUE(isNear(d.at(53, 30), 0, 255, 0, 255));  // inside the bend
+    EXPECT_EQ(d.alpha(58, 30), 0);                      // the control point
+    EXPECT_EQ(d.alpha(30, 2) + d.alpha(30, 3), 255);
 }
 
-// A shadow row draws the shape moved by the offsets in the shadow's paint.
+// A shadow row draws the shape moved by the offsets in the shadow's paint;
+// a symbol's shadow fills with it.
 TEST(vxDeviceGDIPlus, ShadowsAreOffset) {
     vxShadowOLD shadow;
     shadow.setOffsets(5, 3);
-    auto device = openDevice(60, 40, Route::kBitmap, 0);
-    const float bounds[4] = {15, 13, 35, 23};
-    device->fillPolygon2D(shadow, {10, 30, 30, 10}, {10, 10, 20, 20}, bounds, 1);
-    device->drawLine2D(*buttStroke(1), shadow, 40, 5, 55, 5);
-    device->drawSymbol(*buttStroke(1), *rgba(0, 0, 0), shadow, 3, 6, 45, 25);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_TRUE(isNear(pixelAt(picture, 15, 13), 136, 136, 136, 255));
-    EXPECT_TRUE(isNear(pixelAt(picture, 34, 22), 136, 136, 136, 255));
-    EXPECT_EQ(pixelAt(picture, 14, 13).a, 0);
-    EXPECT_EQ(pixelAt(picture, 12, 12).a, 0);
-    EXPECT_EQ(pixelAt(picture, 50, 7).a + pixelAt(picture, 50, 8).a, 255);
-    EXPECT_TRUE(isNear(pixelAt(picture, 50, 28), 136, 136, 136, 255));  // symbol's fill
+    const Drawn d = draw(60, 40, [&](vxDevice& d) {
+        const float bounds[4] = {15, 13, 35, 23};
+        d.fillPolygon2D(shadow, {10, 30, 30, 10}, {10, 10, 20, 20}, bounds, 1);
+        d.drawLine2D(*buttStroke(1), shadow, 40, 5, 55, 5);
+        d.drawSymbol(*buttStroke(1), *rgba(0, 0, 0), shadow, 3, 6, 45, 25);
+    });
+    EXPECT_TRUE(isNear(d.at(15, 13), 136, 136, 136, 255));
+    EXPECT_TRUE(isNear(d.at(34, 22), 136, 136, 136, 255));
+    EXPECT_EQ(d.alpha(14, 13) + d.alpha(12, 12), 0);
+    EXPECT_EQ(d.alpha(50, 7) + d.alpha(50, 8), 255);
+    EXPECT_TRUE(isNear(d.at(50, 28), 136, 136, 136, 255));
 }
 
-// Each mode combines the rectangle with the clip before it.
+// A first clip of 0..20, then 10..30 by each mode; probes at 5, 15, 25, 35.
 TEST(vxDeviceGDIPlus, ClipModes) {
-    struct Case {
+    const struct {
         short mode;
-        bool inFirst, inSecond, inBoth;
-    };
-    // First clip 0..20, then 10..30 by the mode; fill all, probe x = 5, 25, 15.
-    for (const Case& c : {Case{1, false, false, true}, Case{2, true, false, false},
-                          Case{3, true, true, true}, Case{0, false, true, true}}) {
+        int covered[4];
+    } cases[] = {{1, {0, 1, 0, 0}}, {2, {1, 0, 0, 0}}, {3, {1, 1, 1, 0}}, {0, {0, 1, 1, 0}}};
+    for (const auto& c : cases) {
         for (Route route : {Route::kBitmap, Route::kRecorded}) {
-            auto device = openDevice(40, 10, route, 0);
-            device->setClipRegion(0, 0, 20, 10, 0);
-            device->setClipRegion(10, 0, 20, 10, c.mode);
-            fillRect(*device, *rgba(0, 0, 0), 0, 0, 40, 10);
-            cairo_surface_t* picture = finish(*device);
-            EXPECT_EQ(pixelAt(picture, 5, 5).a, c.inFirst ? 255 : 0) << "mode " << c.mode;
-            EXPECT_EQ(pixelAt(picture, 25, 5).a, c.inSecond ? 255 : 0) << "mode " << c.mode;
-            EXPECT_EQ(pixelAt(picture, 15, 5).a, c.inBoth ? 255 : 0) << "mode " << c.mode;
-            EXPECT_EQ(pixelAt(picture, 35, 5).a, 0) << "mode " << c.mode;
+            const Drawn d = draw(
+                40, 10,
+                [&](vxDevice& d) {
+                    d.setClipRegion(0, 0, 20, 10, 0);
+                    d.setClipRegion(10, 0, 20, 10, c.mode);
+                    fillRect(d, *rgba(0, 0, 0), 0, 0, 40, 10);
+                },
+                route);
+            for (int i = 0; i < 4; ++i)
+                EXPECT_EQ(d.alpha(5 + 10 * i, 5), 255 * c.covered[i]) << c.mode << " " << i;
         }
     }
 }
 
-// Clips after a mask keep combining; a reset opens the whole drawing.
+// Clips after a mask keep combining, by rectangle and by path; a reset
+// opens the whole drawing.
 TEST(vxDeviceGDIPlus, ClipsCombineAndReset) {
-    auto device = openDevice(40, 10, Route::kBitmap, 0);
-    device->setClipRegion(0, 0, 10, 10, 0);
-    device->setClipRegion(30, 0, 10, 10, 3);  // 0..10 and 30..40
-    device->setClipRegion(5, 0, 30, 10, 1);   // 5..10 and 30..35
-    fillRect(*device, *rgba(255, 0, 0), 0, 0, 40, 10);
-    device->resetClipRegion();
-    fillRect(*device, *rgba(0, 0, 255), 0, 8, 40, 10);
-    cairo_surface_t* picture = finish(*device);
-    for (int x : {0, 4, 10, 29, 35, 39}) EXPECT_EQ(pixelAt(picture, x, 2).a, 0) << x;
-    for (int x : {5, 9, 30, 34}) EXPECT_TRUE(isNear(pixelAt(picture, x, 2), 255, 0, 0, 255)) << x;
-    EXPECT_TRUE(isNear(pixelAt(picture, 20, 9), 0, 0, 255, 255));
+    const Drawn d = draw(40, 40, [](vxDevice& d) {
+        const float bounds[4] = {0, 0, 40, 40};
+        d.setClipRegion(0, 0, 10, 40, 0);
+        d.setClipRegion(30, 0, 10, 40, 3);                                  // 0..10 and 30..40
+        d.setClipRegion({2, 3, 3, 1}, {5, 40, 40}, {0, 0, 35}, bounds, 1);  // right of x = y + 5
+        fillRect(d, *rgba(255, 0, 0), 0, 0, 40, 40);
+        d.resetClipRegion();
+        fillRect(d, *rgba(0, 0, 255), 0, 38, 40, 40);
+    });
+    EXPECT_EQ(d.alpha(2, 2) + d.alpha(20, 2) + d.alpha(32, 30) + d.alpha(8, 20), 0);
+    EXPECT_TRUE(isNear(d.at(8, 1), 255, 0, 0, 255));
+    EXPECT_TRUE(isNear(d.at(32, 20), 255, 0, 0, 255));
+    EXPECT_TRUE(isNear(d.at(20, 39), 0, 0, 255, 255));
 }
 
-// Rectangles beyond 32000, and on a bitmap those thinner than a pixel,
-// leave the clip as it was.
+// Rectangles beyond 32000 leave the clip as it was, and so does one
+// thinner than a pixel on a bitmap; the bare rectangle replaces the clip.
 TEST(vxDeviceGDIPlus, ClipLimits) {
-    const float limits[][4] = {{0, 0, 32001, 10}, {-32001, 0, 10, 10}, {0, 0, -1, 10}};
-    for (const auto& r : limits) {
-        auto device = openDevice(20, 10, Route::kBitmap, 0);
-        device->setClipRegion(0, 0, 10, 10, 0);
-        device->setClipRegion(r[0], r[1], r[2], r[3], 0);
-        fillRect(*device, *rgba(0, 0, 0), 0, 0, 20, 10);
-        cairo_surface_t* picture = finish(*device);
-        EXPECT_EQ(pixelAt(picture, 5, 5).a, 255);
-        EXPECT_EQ(pixelAt(picture, 15, 5).a, 0);
-    }
     for (Route route : {Route::kBitmap, Route::kRecorded}) {
-        auto device = openDevice(20, 10, route, 0);
-        device->setClipRegion(2, 0, 0.5f, 10, 0);
-        fillRect(*device, *rgba(0, 0, 0), 0, 0, 20, 10);
-        cairo_surface_t* picture = finish(*device);
-        EXPECT_EQ(pixelAt(picture, 15, 5).a, route == Route::kBitmap ? 255 : 0);
+        const Drawn d = draw(
+            40, 10,
+            [](vxDevice& d) {
+                d.setClipRegion(0, 0, 20, 10, 0);
+                d.setClipRegion(0, 0, 32001, 10, 0);
+                d.setClipRegion(-32001, 0, 10, 10, 0);
+                d.setClipRegion(0, 0, -1, 10, 0);
+                d.setClipRegion(2, 0, 0.5f, 10, 0);
+                fillRect(d, *rgba(0, 0, 0), 0, 0, 40, 10);
+                const float rect[4] = {30, 0, 40, 10};
+                d.setClipRegion(rect);
+                fillRect(d, *rgba(255, 0, 0), 0, 0, 40, 10);
+            },
+            route);
+        EXPECT_EQ(d.alpha(15, 5), route == Route::kBitmap ? 255 : 0);
+        EXPECT_EQ(d.alpha(25, 5), 0);
+        EXPECT_TRUE(isNear(d.at(35, 5), 255, 0, 0, 255));
     }
 }
 
-TEST(vxDeviceGDIPlus, ClipByPathAndByBareRectangle) {
-    auto device = openDevice(40, 40, Route::kBitmap, 0);
-    const float bounds[4] = {0, 0, 40, 40};
-    device->setClipRegion({2, 3, 3, 1}, {0, 40, 0}, {0, 0, 40}, bounds, 0);  // upper left half
-    fillRect(*device, *rgba(0, 0, 0), 0, 0, 40, 40);
-    const float rect[4] = {30, 30, 40, 40};
-    device->setClipRegion(rect);
-    fillRect(*device, *rgba(255, 0, 0), 0, 0, 40, 40);
-    cairo_surface_t* picture = finish(*device);
-    EXPECT_TRUE(isNear(pixelAt(picture, 5, 5), 0, 0, 0, 255));
-    EXPECT_EQ(pixelAt(picture, 30, 25).a, 0);
-    EXPECT_TRUE(isNear(pixelAt(picture, 35, 35), 255, 0, 0, 255));
-    EXPECT_EQ(pixelAt(picture, 25, 35).a, 0);
-}
-
-// A sample pixel inside and outside of each shape, centred at 15, 15 in a
-// box of 20 with a fill and an outline of another colour.
+// Each type centred at 15, 15 with size 20 (10 for the marks of lines),
+// a black outline of width 3 and a green fill: a pixel that shows the
+// fill, or the outline where a shape has no fill; nothing beyond the box.
 TEST(vxDeviceGDIPlus, SymbolShapes) {
-    struct Case {
+    const struct {
         short type;
-        int insideX, insideY;    // where the fill shows
-        int outsideX, outsideY;  // inside the box but outside the shape
-    };
-    for (const Case& c : {Case{2, 15, 15, 6, 6}, Case{3, 7, 7, 3, 3}, Case{4, 15, 15, 8, 8},
-                          Case{5, 15, 9, 8, 20}, Case{6, 15, 21, 8, 10}}) {
-        auto device = openDevice(30, 30, Route::kBitmap, 0);
-        device->drawSymbol(*buttStroke(1), *rgba(0, 0, 0), *rgba(0, 255, 0), c.type, 20, 15, 15);
-        cairo_surface_t* picture = finish(*device);
-        EXPECT_TRUE(isNear(pixelAt(picture, c.insideX, c.insideY), 0, 255, 0, 255)) << c.type;
-        EXPECT_EQ(pixelAt(picture, c.outsideX, c.outsideY).a, 0) << c.type;
-        const Box box = boxOf(picture, isInked);
-        EXPECT_GE(box.left, 4) << c.type;
-        EXPECT_LE(box.right, 26) << c.type;
-
-        auto outline = openDevice(30, 30, Route::kBitmap, 0);
-        outline->drawSymbol(*buttStroke(1), *rgba(0, 0, 0), *rgba(0, 255, 0),
-                            static_cast<short>(c.type + 6), 20, 15, 15);
-        picture = finish(*outline);
-        EXPECT_EQ(pixelAt(picture, c.insideX, c.insideY).a, 0) << c.type + 6;
-        EXPECT_EQ(countOf(picture, [](const Pixel& p) { return p.g > 0; }), 0);
-        EXPECT_GT(countOf(picture, isInked), 30) << c.type + 6;
+        int x, y;
+        bool isFill;
+    } probes[] = {{1, 10, 10, false},  {2, 15, 15, true},   {3, 7, 7, true},    {4, 15, 15, true},
+                  {5, 15, 9, true},    {6, 15, 21, true},   {7, 15, 10, false}, {8, 15, 5, false},
+                  {9, 5, 15, false},   {10, 9, 10, false},  {11, 10, 5, false}, {12, 9, 24, false},
+                  {13, 12, 15, false}, {14, 15, 12, false}, {15, 8, 15, false}, {16, 22, 15, false},
+                  {17, 15, 8, false},  {18, 15, 22, false}};
+    for (const auto& p : probes) {
+        const float size = p.type == 1 || p.type == 7 || p.type >= 13 ? 10.0f : 20.0f;
+        const Drawn d = draw(30, 30, [&](vxDevice& d) {
+            d.drawSymbol(*buttStroke(3), *rgba(0, 0, 0), *rgba(0, 255, 0), p.type, size, 15, 15);
+        });
+        EXPECT_TRUE(isNear(d.at(p.x, p.y), 0, p.isFill ? 255 : 0, 0, 255)) << p.type;
+        const bool hasFill = boxOf(d.picture, [](const Pixel& px) { return px.g > 0; }).count > 0;
+        EXPECT_EQ(hasFill, p.type >= 2 && p.type <= 6) << p.type;
+        EXPECT_LE(boxOf(d.picture, isInked).right, 27) << p.type;
     }
 }
 
-TEST(vxDeviceGDIPlus, SymbolLines) {
-    struct Case {
-        short type;
-        int inkedX, inkedY, blankX, blankY;
-    };
-    for (const Case& c : {Case{1, 10, 10, 15, 10}, Case{7, 15, 10, 10, 10}, Case{13, 12, 15, 15, 10},
-                          Case{14, 15, 12, 10, 15}, Case{15, 8, 15, 22, 15}, Case{16, 22, 15, 8, 15},
-                          Case{17, 15, 8, 15, 22}, Case{18, 15, 22, 15, 8}}) {
-        auto device = openDevice(30, 30, Route::kRecorded, 0);
-        device->drawSymbol(*buttStroke(3), *rgba(0, 0, 0), *rgba(0, 255, 0), c.type, 10, 15, 15);
-        cairo_surface_t* picture = finish(*device);
-        EXPECT_EQ(pixelAt(picture, c.inkedX, c.inkedY).a, 255) << c.type;
-        EXPECT_EQ(pixelAt(picture, c.blankX, c.blankY).a, 0) << c.type;
-    }
-}
-
+// Black squares from x - 3 to x + 2 at each knob and a grey frame through
+// the corners, on whole pixels even in a record.
 TEST(vxDeviceGDIPlus, SelectionKnobs) {
     vxSelectionKnobs knobs;
     const float bounds[4] = {10, 10, 40, 30};
     knobs.doShowMidKnobs = true;
     knobs.setFromBounds(bounds);
-    auto device = openDevice(50, 40, Route::kRecorded, 1);
-    device->drawSelectionKnobs(knobs);
-    cairo_surface_t* picture = finish(*device);
+    const Drawn d = draw(
+        50, 40, [&](vxDevice& d) { d.drawSelectionKnobs(knobs); }, Route::kRecorded, 1);
     for (int i = 0; i < knobs.numOfKnobs; ++i) {
         const int x = static_cast<int>(knobs.x[i]), y = static_cast<int>(knobs.y[i]);
-        EXPECT_TRUE(isNear(pixelAt(picture, x - 3, y - 3), 0, 0, 0, 255)) << i;
-        EXPECT_TRUE(isNear(pixelAt(picture, x + 1, y + 1), 0, 0, 0, 255)) << i;
-        EXPECT_FALSE(isNear(pixelAt(picture, x + 2, y + 2), 0, 0, 0, 255)) << i;
+        EXPECT_TRUE(isNear(d.at(x - 3, y - 3), 0, 0, 0, 255)) << i;
+        EXPECT_TRUE(isNear(d.at(x + 1, y + 1), 0, 0, 0, 255)) << i;
+        EXPECT_FALSE(isNear(d.at(x + 2, y + 2), 0, 0, 0, 255)) << i;
     }
-    // The frame runs along the edges between the knobs, grey; a line of
-    // width 1 on a whole pixel covers two rows by half.
-    const Pixel edge = pixelAt(picture, 20, 30);
-    EXPECT_NEAR(edge.r, 0xA9, 2);
-    EXPECT_NEAR(edge.a, 128, 2);
-    EXPECT_EQ(pixelAt(picture, 25, 20).a, 0);
+    EXPECT_NEAR(d.at(20, 30).r, 0xA9, 2);
+    EXPECT_NEAR(d.alpha(20, 30), 128, 2);
+    EXPECT_EQ(d.alpha(25, 20), 0);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Helpers of the raster device tests: devices of either route, paints and
-// strokes in one line, and pixels read back from a finished picture.
+// Helpers of the raster device tests: a drawing made in one call, paints
+// and strokes in one line, and pixels read back from the finished picture.
 #pragma once
 
 #include <cairo.h>
@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
-#include <ostream>
 
 #include "graphics/vxBasicPaint.h"
 #include "graphics/vxBasicStroke.h"
@@ -20,15 +19,8 @@ namespace Velarix::test {
 // A pixel with its colour taken out of cairo's premultiplied form; a
 // transparent pixel reads as 0, 0, 0, 0.
 struct Pixel {
-    int r = 0;
-    int g = 0;
-    int b = 0;
-    int a = 0;
+    int r = 0, g = 0, b = 0, a = 0;
 };
-
-inline std::ostream& operator<<(std::ostream& out, const Pixel& p) {
-    return out << "rgba(" << p.r << ", " << p.g << ", " << p.b << ", " << p.a << ")";
-}
 
 inline Pixel pixelAt(cairo_surface_t* image, int x, int y) {
     cairo_surface_flush(image);
@@ -52,13 +44,11 @@ inline bool isNear(const Pixel& p, int r, int g, int b, int a, int tolerance = 0
 }
 
 // The largest difference of any channel of any pixel, on the raw
-// premultiplied values; -1 when the sizes differ.
+// premultiplied bytes; -1 when the sizes differ.
 inline int maxDifference(cairo_surface_t* one, cairo_surface_t* other) {
     const int w = cairo_image_surface_get_width(one), h = cairo_image_surface_get_height(one);
     if (w != cairo_image_surface_get_width(other) || h != cairo_image_surface_get_height(other))
         return -1;
-    cairo_surface_flush(one);
-    cairo_surface_flush(other);
     int largest = 0;
     for (int y = 0; y < h; ++y) {
         const unsigned char* a =
@@ -70,13 +60,10 @@ inline int maxDifference(cairo_surface_t* one, cairo_surface_t* other) {
     return largest;
 }
 
-// The box of the pixels that pass the test: left, top, right, bottom, the
-// last two exclusive. All -1 when no pixel passes.
+// The box of the pixels that pass the test: left, top, right and bottom,
+// the last two exclusive; all -1 when none passes. `count` of them.
 struct Box {
-    int left = -1;
-    int top = -1;
-    int right = -1;
-    int bottom = -1;
+    int left = -1, top = -1, right = -1, bottom = -1, count = 0;
 };
 
 inline Box boxOf(cairo_surface_t* image, const std::function<bool(const Pixel&)>& test) {
@@ -84,14 +71,11 @@ inline Box boxOf(cairo_surface_t* image, const std::function<bool(const Pixel&)>
     for (int y = 0; y < cairo_image_surface_get_height(image); ++y) {
         for (int x = 0; x < cairo_image_surface_get_width(image); ++x) {
             if (!test(pixelAt(image, x, y))) continue;
-            if (box.left < 0) {
-                box = Box{x, y, x + 1, y + 1};
-                continue;
-            }
-            box.left = std::min(box.left, x);
-            box.top = std::min(box.top, y);
+            box.left = box.count == 0 ? x : std::min(box.left, x);
+            box.top = box.count == 0 ? y : box.top;
             box.right = std::max(box.right, x + 1);
-            box.bottom = std::max(box.bottom, y + 1);
+            box.bottom = y + 1;
+            ++box.count;
         }
     }
     return box;
@@ -99,17 +83,6 @@ inline Box boxOf(cairo_surface_t* image, const std::function<bool(const Pixel&)>
 
 inline bool isInked(const Pixel& p) {
     return p.a > 0;
-}
-
-// The number of pixels that pass the test.
-inline int countOf(cairo_surface_t* image, const std::function<bool(const Pixel&)>& test) {
-    int count = 0;
-    for (int y = 0; y < cairo_image_surface_get_height(image); ++y) {
-        for (int x = 0; x < cairo_image_surface_get_width(image); ++x) {
-            if (test(pixelAt(image, x, y))) ++count;
-        }
-    }
-    return count;
 }
 
 inline std::unique_ptr<vxBasicPaint> rgba(short r, short g, short b, short a = 255,
@@ -127,23 +100,26 @@ inline std::unique_ptr<vxBasicStroke> buttStroke(float width = 1.0f) {
 
 enum class Route { kBitmap, kRecorded };
 
-// An opened device of the size on the route.
-inline std::unique_ptr<vxDeviceGDIPlus> openDevice(int width, int height,
-                                                   Route route = Route::kBitmap,
-                                                   short antialiasing = 0) {
-    auto device = std::make_unique<vxDeviceGDIPlus>();
-    device->setSize(static_cast<float>(width), static_cast<float>(height));
-    device->setIsBitmap(route == Route::kBitmap);
-    device->setAntialiasing(antialiasing);
-    device->open();
-    return device;
-}
+// A closed device and its picture as the formats with alpha get it.
+struct Drawn {
+    std::unique_ptr<vxDeviceGDIPlus> device;
+    cairo_surface_t* picture = nullptr;
+    Pixel at(int x, int y) const { return pixelAt(picture, x, y); }
+    int alpha(int x, int y) const { return at(x, y).a; }
+};
 
-// Closes the device and answers its picture, as the formats with alpha
-// get it unless `onWhite`.
-inline cairo_surface_t* finish(vxDeviceGDIPlus& device, bool onWhite = false) {
-    device.close();
-    return device.getPicture(onWhite);
+// Opens a device of the size on the route, lets `paint` draw, closes it.
+inline Drawn draw(int width, int height, const std::function<void(vxDeviceGDIPlus&)>& paint,
+                  Route route = Route::kBitmap, short antialiasing = 0) {
+    Drawn drawn{std::make_unique<vxDeviceGDIPlus>()};
+    drawn.device->setSize(static_cast<float>(width), static_cast<float>(height));
+    drawn.device->setIsBitmap(route == Route::kBitmap);
+    drawn.device->setAntialiasing(antialiasing);
+    drawn.device->open();
+    paint(*drawn.device);
+    drawn.device->close();
+    drawn.picture = drawn.device->getPicture();
+    return drawn;
 }
 
 // A filled axis-parallel rectangle from left, top to right, bottom.
