@@ -113,7 +113,8 @@ bool vxDeviceGDIPlus::createCanvas() {
     if (isBitmapRoute) {
         canvas.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelWidth, pixelHeight));
     } else {
-        const cairo_rectangle_t frame = {0.0, 0.0, getWidth(), getHeight()};
+        const cairo_rectangle_t frame = {0.0, 0.0, std::fmax(0.0f, getWidth()),
+                                         std::fmax(0.0f, getHeight())};
         canvas.reset(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &frame));
     }
     if (reportCairoStatus(cairo_surface_status(canvas.get()), L"createCanvas", 1)) return true;
@@ -150,6 +151,7 @@ void vxDeviceGDIPlus::setUpContext() {
     pen.miterLimit = 10.0;
     cairo_set_source_rgba(cr.get(), 0.0, 0.0, 0.0, 1.0);
     hasSolidSource = true;
+    sourceRGBA[0] = sourceRGBA[1] = sourceRGBA[2] = 0.0;
     sourceRGBA[3] = 1.0;
     checkStatus(L"open");
 }
