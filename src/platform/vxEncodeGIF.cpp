@@ -48,12 +48,12 @@ std::vector<uint32_t> makePalette(const vxRasterPixels& pixels, std::string& sta
         return {};
     }
     liq_set_max_colors(attr.get(), 256);
-    std::unique_ptr<liq_image, LiqImageFree> image(liq_image_create_custom(
-        attr.get(), rowForPalette, const_cast<vxRasterPixels*>(&pixels), pixels.width,
-        pixels.height, 0.0));
+    std::unique_ptr<liq_image, LiqImageFree> image(
+        liq_image_create_custom(attr.get(), rowForPalette, const_cast<vxRasterPixels*>(&pixels),
+                                pixels.width, pixels.height, 0.0));
     liq_result* quantized = nullptr;
-    liq_error error = image ? liq_image_quantize(image.get(), attr.get(), &quantized)
-                            : LIQ_OUT_OF_MEMORY;
+    liq_error error =
+        image ? liq_image_quantize(image.get(), attr.get(), &quantized) : LIQ_OUT_OF_MEMORY;
     std::unique_ptr<liq_result, LiqResultFree> result(quantized);
     if (error != LIQ_OK || !result) {
         status = "no palette (libimagequant error " + std::to_string(int(error)) + ")";

@@ -2,6 +2,7 @@
 #include <cstdio>  // jpeglib.h needs FILE and size_t declared first
 
 #include <jpeglib.h>
+
 #include <jerror.h>
 
 #include <algorithm>
@@ -63,7 +64,9 @@ void growOrFail(j_compress_ptr cinfo) {
     dest->pub.free_in_buffer = dest->out->size() - used;
 }
 
-void onInitDestination(j_compress_ptr cinfo) { growOrFail(cinfo); }
+void onInitDestination(j_compress_ptr cinfo) {
+    growOrFail(cinfo);
+}
 
 boolean onEmptyBuffer(j_compress_ptr cinfo) {
     growOrFail(cinfo);

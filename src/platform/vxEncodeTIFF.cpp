@@ -23,7 +23,9 @@ struct MemoryFile {
     char message[200] = "";
 };
 
-MemoryFile& fileOf(thandle_t handle) { return *static_cast<MemoryFile*>(handle); }
+MemoryFile& fileOf(thandle_t handle) {
+    return *static_cast<MemoryFile*>(handle);
+}
 
 tmsize_t onRead(thandle_t handle, void* buffer, tmsize_t size) {
     MemoryFile& file = fileOf(handle);
@@ -63,11 +65,17 @@ toff_t onSeek(thandle_t handle, toff_t offset, int whence) {
     return file.position;
 }
 
-int onClose(thandle_t) { return 0; }
+int onClose(thandle_t) {
+    return 0;
+}
 
-toff_t onSize(thandle_t handle) { return fileOf(handle).out->size(); }
+toff_t onSize(thandle_t handle) {
+    return fileOf(handle).out->size();
+}
 
-int onMap(thandle_t, void**, toff_t*) { return 0; }
+int onMap(thandle_t, void**, toff_t*) {
+    return 0;
+}
 
 void onUnmap(thandle_t, void*, toff_t) {}
 
@@ -78,7 +86,9 @@ int onError(TIFF*, void* user, const char* module, const char* format, va_list a
     return 1;
 }
 
-int onWarning(TIFF*, void*, const char*, const char*, va_list) { return 1; }
+int onWarning(TIFF*, void*, const char*, const char*, va_list) {
+    return 1;
+}
 
 struct OptionsFree {
     void operator()(TIFFOpenOptions* p) const { TIFFOpenOptionsFree(p); }

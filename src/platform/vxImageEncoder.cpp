@@ -12,36 +12,22 @@ namespace {
 using Encoder = bool (*)(const vxRasterPixels&, const vxEncoderOptions&,
                          std::vector<unsigned char>&, std::string&);
 
-Encoder encoderFor(vxImageFormat format) {
-    switch (format) {
-        case vxImageFormat::kGIF:
-            return vxEncodeGIF;
-        case vxImageFormat::kJPEG:
-            return vxEncodeJPEG;
-        case vxImageFormat::kTIFF:
-            return vxEncodeTIFF;
-        case vxImageFormat::kPNG:
-            return vxEncodePNG;
-        case vxImageFormat::kBMP:
-            return vxEncodeBMP;
-    }
-    return nullptr;
-}
+struct FormatEntry {
+    vxImageFormat format;
+    const char* name;
+    Encoder encode;
+};
 
-const char* formatName(vxImageFormat format) {
-    switch (format) {
-        case vxImageFormat::kGIF:
-            return "GIF";
-        case vxImageFormat::kJPEG:
-            return "JPEG";
-        case vxImageFormat::kTIFF:
-            return "TIFF";
-        case vxImageFormat::kPNG:
-            return "PNG";
-        case vxImageFormat::kBMP:
-            return "BMP";
-    }
-    return "";
+constexpr FormatEntry kFormats[] = {{vxImageFormat::kGIF, "GIF", vxEncodeGIF},
+                                    {vxImageFormat::kJPEG, "JPEG", vxEncodeJPEG},
+                                    {vxImageFormat::kTIFF, "TIFF", vxEncodeTIFF},
+                                    {vxImageFormat::kPNG, "PNG", vxEncodePNG},
+                                    {vxImageFormat::kBMP, "BMP", vxEncodeBMP}};
+
+const FormatEntry* entryFor(vxImageFormat format) {
+    for (const FormatEntry& entry : kFormats)
+        if (entry.format == format) return &entry;
+    return nullptr;
 }
 
 // Empty text when the raster can be read, else what is wrong with it.
@@ -63,8 +49,8 @@ bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
                    std::string& status) {
     out.clear();
     status.clear();
-    Encoder encoder = encoderFor(format);
-    if (encoder == nullptr) {
+    const FormatEntry* entry = entryFor(format);
+    if (entry == nullptr) {
         status = "unknown picture format " + std::to_string(static_cast<int>(format));
         return false;
     }
@@ -72,7 +58,7 @@ bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
     bool done = false;
     if (detail.empty()) {
         try {
-            done = encoder(pixels, options, out, detail);
+            done = entry->encode(pixels, options, out, detail);
         } catch (const std::bad_alloc&) {
             detail = "out of memory";
         }
@@ -80,7 +66,7 @@ bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
     if (!done) {
         out.clear();
         out.shrink_to_fit();
-        status = std::string(formatName(format)) + ": " + (detail.empty() ? "failed" : detail);
+        status = std::string(entry->name) + ": " + (detail.empty() ? "failed" : detail);
     }
     return done;
 }

@@ -10,7 +10,9 @@ namespace {
 constexpr int kCacheBits = 16;
 constexpr uint32_t kFilled = 0x1000000;
 
-uint32_t cacheSlot(uint32_t rgb) { return (rgb * 2654435761u) >> (32 - kCacheBits); }
+uint32_t cacheSlot(uint32_t rgb) {
+    return (rgb * 2654435761u) >> (32 - kCacheBits);
+}
 
 }  // namespace
 

@@ -25,8 +25,8 @@ private:
 
     unsigned char search(uint32_t rgb) const;
 
-    std::vector<Entry> mByGreen;        // the palette sorted by green
-    std::vector<uint32_t> mCacheKeys;   // colour | kFilled, 0 for an empty slot
+    std::vector<Entry> mByGreen;       // the palette sorted by green
+    std::vector<uint32_t> mCacheKeys;  // colour | kFilled, 0 for an empty slot
     std::vector<unsigned char> mCacheIndex;
 };
 
