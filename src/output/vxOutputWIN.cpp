@@ -4,6 +4,7 @@
 #include "drawing/vxLayerManager.h"
 #include "host/vxLog.h"
 #include "output/vxDevice.h"
+#include "output/vxDeviceGDIPlus.h"
 #include "output/vxDeviceSVG.h"
 #include "output/vxExternal.h"
 #include "output/vxWriteExternal.h"
@@ -35,8 +36,10 @@ OutputKind outputKindOf(long function) {
             return {kFormatBMP, vxDevice::kGDIPlus};
         case kSaveAsPCTFile:
             return {kFormatPICT, 0};
+        // EMF needs a recorder of vector commands, which this platform
+        // lacks: like PICT it is passed over.
         case kSaveAsEMFFile:
-            return {kFormatEMF, vxDevice::kGDIPlus};
+            return {kFormatEMF, 0};
         case kSaveAsPDFFile:
             return {kFormatPDF, vxDevice::kPDF};
         case kSaveAsSVGFile:
@@ -84,6 +87,9 @@ vxDevice* vxOutputWIN::addDevice(short deviceID) {
     std::unique_ptr<vxDevice> device;
     try {
         if (deviceID == vxDevice::kSVG) device = std::make_unique<vxDeviceSVG>(userSettings);
+        if (deviceID == vxDevice::kGDIPlus) {
+            device = std::make_unique<vxDeviceGDIPlus>(userSettings);
+        }
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"addDevice"));
         return nullptr;
@@ -107,7 +113,7 @@ void vxOutputWIN::addTarget(vxAssign& a) {
         return;
     }
     const OutputKind kind = outputKindOf(a.getFunction());
-    if (kind.format == kFormatPICT || kind.deviceID == 0) return;
+    if (kind.deviceID == 0) return;
     vxDevice* device = nullptr;
     if (kind.deviceID == vxDevice::kGDIPlus) device = findDevice(vxDevice::kGDIPlus);
     if (!device) device = addDevice(kind.deviceID);

@@ -1,0 +1,268 @@
+// The raster device: the drawing as a picture of width by height pixels,
+// drawn with cairo, and written at close to every target in the target's
+// picture format.
+//
+// Two routes, chosen by the drawing's bitmap flag when the device opens:
+//   - bitmap: the shapes go straight into an ARGB32 picture cleared to
+//     transparent white. Coordinates are rounded to whole pixels, and a
+//     rectangle clip narrower or lower than one pixel is passed over;
+//   - recorded (the default): the shapes are recorded at their exact
+//     coordinates, and close plays the record into a picture cleared with
+//     transparent white, or with opaque white for the formats that have no
+//     alpha (GIF, JPEG, BMP).
+// Either way a format without alpha gets the picture laid on opaque white.
+//
+// Shapes and text are antialiased unless `antialiasing` is 0; setUp takes
+// it from the user's rendering settings, where text has a flag of its own.
+//
+// Paints: a colour; a hatch of 8 by 8 pixels repeated from the drawing's
+// origin; gradients laid over the bounds of the shape, their stops with
+// alpha. Pictures are not drawn yet: a texture paint draws nothing, and a
+// colour with a texture number draws its colour. Dashes are multiples of
+// the line width. A combined stroke draws its strokes one over the other;
+// a wave is drawn as a plain line.
+//
+// Text is drawn with the very font face that measured it, each glyph at
+// the position that the summed advances of the measure give, so that a
+// line is as wide as the layout made room for. Lines stand as on SVG: the
+// first baseline at the top of the bounds plus the line height minus the
+// descent.
+//
+// Clips combine by their mode: 1 intersect, 2 exclude, 3 union, other
+// values replace the clip. Intersections are cairo clips; once a clip has
+// been excluded or united, the clip is kept as a coverage mask instead,
+// and each shape is drawn through it.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "output/vxCairoFontFaces.h"
+#include "output/vxCairoPointers.h"
+#include "output/vxDevice.h"
+
+namespace Velarix {
+
+class vxBasicPaint;
+class vxColorOLD;
+class vxFontFace;
+class vxGradientPaint;
+class vxUserSettings;
+
+class vxDeviceGDIPlus : public vxDevice {
+public:
+    explicit vxDeviceGDIPlus(const vxUserSettings* settings = nullptr);
+    ~vxDeviceGDIPlus() override;
+
+    short getDeviceID() const override { return kGDIPlus; }
+    // Clipboard (1), file (3) and stream (4) targets; other types make none.
+    void addTarget(short targetType) override;
+    long getNumOfTargets() const override;
+    vxWriteExternal* getLastTarget() const override;
+    // The size and bitmap flag, then the antialiasing of the user's
+    // rendering settings.
+    void setUp(const vxDrawingSpecs& specs) override;
+    void open() override;
+    void close() override;
+
+    using vxDevice::setClipRegion;
+    void resetClipRegion() override;
+    void setClipRegion(float x, float y, float w, float h, short mode) override;
+    // Replaces the clip with the rectangle.
+    void setClipRegion(const float rect[4]) override;
+    void setClipRegion(const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short mode) override;
+
+    void drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1, float y1,
+                    float x2, float y2) override;
+    void drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                    float x2, float y2) override;
+    void drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
+                         const vxPoints& y) override;
+    void drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
+                         const vxPoints& y) override;
+    void drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
+                       const vxPoints& y, const float bounds[4], bool doClose) override;
+    void drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
+                       const vxPoints& y, const float bounds[4], bool doClose) override;
+    void fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short windingRule) override;
+    void fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
+                       const float bounds[4], short windingRule) override;
+    void drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxVerbs& verbs,
+                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
+    void drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
+                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
+    void fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
+                    const vxPoints& y, const float bounds[4], short windingRule) override;
+    void fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
+                    const vxPoints& y, const float bounds[4], short windingRule) override;
+
+    using vxDevice::drawString2D;
+    void drawString2D(const std::wstring& text, const vxFontOLD& font, const vxPaintOLD& paint,
+                      const float bounds[4], short hAlignment, short vAlignment,
+                      float orientation) override;
+
+    // The shadow row fills with the shadow's paint and outlines with
+    // `paint`, the centre moved by the shadow's offsets.
+    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
+                    short symbolType, float size, float x, float y) override;
+    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
+                    short symbolType, float size, float x, float y) override;
+
+    // Pictures are not drawn yet.
+    void drawImage(const vxImage& image) override;
+    // A grey frame through the four corners when there are more than three
+    // knobs, and a black square of 5 by 5 pixels at each knob.
+    void drawSelectionKnobs(const vxSelectionKnobs& knobs) override;
+
+    // One stream for each picture format that a stream target asks for, in
+    // the order GIF, JPEG, TIFF, PNG, BMP.
+    long getNumOfStreams() const override;
+    const vxStreamRecord* getStream(long index) const override;
+
+    // The finished picture after close, an ARGB32 image surface owned by
+    // the device: as the formats with alpha get it, or laid on opaque white
+    // as the others do. Null before close and after a failure.
+    cairo_surface_t* getPicture(bool onWhite = false);
+
+    void dump(short depth, std::ostream& out) const override;
+
+private:
+    // What a shadow row adds to every coordinate.
+    struct Offset {
+        float dx = 0.0f;
+        float dy = 0.0f;
+    };
+    using Points = std::vector<float>;
+    static Offset offsetOf(const vxShadowOLD& shadow);
+
+    // The stroke settings of the context, kept so that a shape that
+    // strokes like the one before changes none of them.
+    struct Pen {
+        bool isKnown = false;  // false: the context's settings are unknown
+        double width = 1.0;
+        cairo_line_cap_t cap = CAIRO_LINE_CAP_BUTT;
+        cairo_line_join_t join = CAIRO_LINE_JOIN_MITER;
+        double miterLimit = 10.0;
+        std::vector<double> dashes;
+        double dashOffset = 0.0;
+    };
+
+    // Setup and close (vxDeviceGDIPlus.cpp).
+    bool createCanvas();
+    void setUpContext();
+    void makePicture(bool onWhite);
+    void writeTargets();
+    bool writeTarget(vxWriteExternal& target);
+    // The picture in the target's format; false after reporting a fault.
+    bool encode(const vxWriteExternal& target, std::vector<unsigned char>& bytes);
+    // Drops the picture and the drawing state of an earlier run.
+    void discard();
+    // The one funnel of the device's faults; the first fault stays.
+    void fail(short code, const wchar_t* method, int number, const std::wstring& info = L"");
+    // Reports a fault of the context, if it has one.
+    bool checkStatus(const wchar_t* method, int number = 1);
+    bool reportCairoStatus(cairo_status_t status, const wchar_t* method, int number);
+    bool isDrawing() const { return cr != nullptr && !isError(); }
+    // A coordinate as the route takes it: whole pixels on a bitmap.
+    double at(float value) const;
+    bool isTextAntialiased() const;
+
+    // Pens and brushes (vxDeviceGDIPlusBrushes.cpp). setUpBrush makes the
+    // paint the context's source for a shape of the bounds, and answers
+    // false when the paint draws nothing here.
+    void setUpPen(const vxStrokeOLD& stroke);
+    bool setUpBrush(const vxPaintOLD& paint, const float bounds[4], bool isText = false);
+    void setUpSolidBrush(const vxColorOLD& color);
+    bool setUpHatchBrush(const vxBasicPaint& paint);
+    bool setUpLinearGradientBrush(const vxGradientPaint& paint, const float bounds[4]);
+    bool setUpRadialGradientBrush(const vxGradientPaint& paint, const float bounds[4]);
+    bool setUpGradientBrush(cairo_pattern_t* pattern, const vxGradientPaint& paint,
+                            const float bounds[4], const wchar_t* method);
+    bool setUpTextureBrush(const vxPaintOLD& paint);
+    // The context's state was changed behind the caches' backs.
+    void forgetContextState();
+
+    // Shapes (vxDeviceGDIPlusShapes.cpp). The path builders start a new
+    // path; strokeShape and fillShape draw the current path and clear it.
+    void addPolyline(const Points& x, const Points& y, bool doClose, Offset offset);
+    void addPath(const vxVerbs& verbs, const Points& x, const Points& y, Offset offset);
+    void strokeShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const float bounds[4]);
+    void fillShape(const vxPaintOLD& paint, const float bounds[4], short windingRule);
+    void strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
+                    float x2, float y2, Offset offset);
+    void strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                     const Points& y, Offset offset);
+    void strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
+                       const Points& y, const float bounds[4], bool doClose, Offset offset);
+    void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
+                     const float bounds[4], short windingRule, Offset offset);
+    void strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
+                    const Points& x, const Points& y, const float bounds[4], Offset offset);
+    void fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x, const Points& y,
+                  const float bounds[4], short windingRule, Offset offset);
+    // Around each drawing of a shape: through the clip mask, when there is
+    // one.
+    void beginShape();
+    void endShape();
+
+    // Clips (vxDeviceGDIPlusClip.cpp). applyClip combines the current path
+    // with the clip by the mode and clears the path.
+    void applyClip(short mode, const wchar_t* method);
+    void intersectClip(const wchar_t* method);
+    bool makeClipMask(const wchar_t* method);
+    void combineClipMask(short mode, const wchar_t* method);
+
+    // Text (vxDeviceGDIPlusText.cpp).
+    bool setUpFont(const vxFontOLD& font, vxCairoFontFaces::Entry& entry);
+    double lineWidth(vxFontFace& face, const std::wstring& line, float size) const;
+    void showLine(vxFontFace& face, const std::wstring& line, double x, double baseline,
+                  float size);
+    void underline(vxFontFace& face, double x, double baseline, double width, float size);
+
+    // Symbols (vxDeviceGDIPlusSymbols.cpp): a fill paint of null or none
+    // skips the fill.
+    void drawSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                         const vxPaintOLD* fillPaint, short symbolType, float size, float x,
+                         float y);
+    bool drawSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
+                         float size, float x, float y);
+    void addSymbolOutline(short shape, float size, float x, float y);
+
+    const vxUserSettings* userSettings;  // not owned
+    std::vector<std::unique_ptr<vxWriteExternal>> targets;
+    // The route of the current run, fixed when the device opens.
+    bool isBitmapRoute = false;
+    int pixelWidth = 0;
+    int pixelHeight = 0;
+    // Text antialiasing as the rendering settings give it; -1 follows
+    // `antialiasing`.
+    short textAntialiasing = -1;
+    vxCairoSurface canvas;  // the picture itself, or the record
+    vxCairoContext cr;
+    vxCairoSurface picture;         // after close: as with alpha
+    vxCairoSurface pictureOnWhite;  // after close: laid on white
+    bool isClosed = false;
+
+    // The clip: a cairo clip of intersections, or, once an exclusion or a
+    // union came, the coverage mask.
+    std::vector<vxCairoPath> clipPaths;
+    vxCairoSurface clipMask;
+
+    // The context's current state, for the hot paths.
+    Pen pen;
+    bool hasSolidSource = false;
+    double sourceRGBA[4] = {0, 0, 0, 0};
+    vxCairoPattern hatch;
+    short hatchIndex = 0;
+    double hatchRGBA[4] = {0, 0, 0, 0};
+    cairo_font_face_t* currentFontFace = nullptr;
+    double currentFontSize = 0.0;
+    vxCairoFontFaces fontFaces;
+    std::vector<cairo_glyph_t> glyphs;  // the glyphs of a line, reused
+};
+
+}  // namespace Velarix

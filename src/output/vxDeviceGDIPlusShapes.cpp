@@ -1,0 +1,320 @@
+// The shapes of the raster device: lines, polygons and paths, each with its
+// shadow row, which moves every point by the shadow's offsets and paints
+// with the shadow's paint.
+#include <algorithm>
+#include <cfloat>
+
+#include "graphics/vxCombinedStroke.h"
+#include "graphics/vxPaintOLD.h"
+#include "graphics/vxShadowOLD.h"
+#include "graphics/vxStrokeOLD.h"
+#include "output/vxDeviceGDIPlus.h"
+
+namespace Velarix {
+
+namespace {
+
+constexpr short kVerbClose = 1;
+constexpr short kVerbMove = 2;
+constexpr short kVerbLine = 3;
+constexpr short kVerbQuad = 4;
+constexpr short kVerbCubic = 5;
+
+size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
+    return std::min(x.size(), y.size());
+}
+
+size_t pointsOfVerb(short verb) {
+    switch (verb) {
+        case kVerbMove:
+        case kVerbLine:
+            return 1;
+        case kVerbQuad:
+            return 2;
+        case kVerbCubic:
+            return 3;
+        default:
+            return 0;
+    }
+}
+
+// The box of the points moved by the offsets, for a gradient along lines,
+// which come without bounds.
+void boundsOf(const std::vector<float>& x, const std::vector<float>& y, float dx, float dy,
+              float bounds[4]) {
+    bounds[0] = bounds[1] = FLT_MAX;
+    bounds[2] = bounds[3] = -FLT_MAX;
+    for (size_t i = 0; i < numOfPoints(x, y); ++i) {
+        bounds[0] = std::min(bounds[0], x[i] + dx);
+        bounds[1] = std::min(bounds[1], y[i] + dy);
+        bounds[2] = std::max(bounds[2], x[i] + dx);
+        bounds[3] = std::max(bounds[3], y[i] + dy);
+    }
+}
+
+}  // namespace
+
+// ---- paths ----------------------------------------------------------------
+
+void vxDeviceGDIPlus::addPolyline(const Points& x, const Points& y, bool doClose, Offset offset) {
+    cairo_t* c = cr.get();
+    cairo_new_path(c);
+    const size_t count = numOfPoints(x, y);
+    for (size_t i = 0; i < count; ++i) {
+        const double px = at(x[i] + offset.dx);
+        const double py = at(y[i] + offset.dy);
+        if (i == 0) {
+            cairo_move_to(c, px, py);
+        } else {
+            cairo_line_to(c, px, py);
+        }
+    }
+    if (doClose && count > 0) cairo_close_path(c);
+}
+
+// A quadratic segment becomes the cubic one that draws the same curve. A
+// verb whose points are missing ends the path.
+void vxDeviceGDIPlus::addPath(const vxVerbs& verbs, const Points& x, const Points& y,
+                              Offset offset) {
+    cairo_t* c = cr.get();
+    cairo_new_path(c);
+    const size_t count = numOfPoints(x, y);
+    auto px = [&](size_t i) { return at(x[i] + offset.dx); };
+    auto py = [&](size_t i) { return at(y[i] + offset.dy); };
+    size_t p = 0;
+    for (short verb : verbs) {
+        const size_t needed = pointsOfVerb(verb);
+        if (p + needed > count) break;
+        switch (verb) {
+            case kVerbClose:
+                cairo_close_path(c);
+                break;
+            case kVerbMove:
+                cairo_move_to(c, px(p), py(p));
+                break;
+            case kVerbLine:
+                cairo_line_to(c, px(p), py(p));
+                break;
+            case kVerbQuad: {
+                double x0 = px(p), y0 = py(p);
+                if (cairo_has_current_point(c)) cairo_get_current_point(c, &x0, &y0);
+                const double qx = px(p), qy = py(p), ex = px(p + 1), ey = py(p + 1);
+                cairo_curve_to(c, x0 + 2.0 / 3.0 * (qx - x0), y0 + 2.0 / 3.0 * (qy - y0),
+                               ex + 2.0 / 3.0 * (qx - ex), ey + 2.0 / 3.0 * (qy - ey), ex, ey);
+                break;
+            }
+            case kVerbCubic:
+                cairo_curve_to(c, px(p), py(p), px(p + 1), py(p + 1), px(p + 2), py(p + 2));
+                break;
+            default:
+                break;
+        }
+        p += needed;
+    }
+}
+
+// ---- drawing the current path ---------------------------------------------
+
+void vxDeviceGDIPlus::beginShape() {
+    if (clipMask) cairo_push_group(cr.get());
+}
+
+void vxDeviceGDIPlus::endShape() {
+    if (!clipMask) return;
+    cairo_pop_group_to_source(cr.get());
+    cairo_mask_surface(cr.get(), clipMask.get(), 0.0, 0.0);
+    forgetContextState();
+}
+
+// Every basic stroke of a combined stroke in turn, the first one lowest.
+void vxDeviceGDIPlus::strokeShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                  const float bounds[4]) {
+    cairo_t* c = cr.get();
+    if (!setUpBrush(paint, bounds)) {
+        cairo_new_path(c);
+        return;
+    }
+    beginShape();
+    const auto* combined = dynamic_cast<const vxCombinedStroke*>(&stroke);
+    if (combined) {
+        for (long i = 0; i < combined->getNumOfStrokes(); ++i) {
+            const vxBasicStroke* part = combined->getStroke(i);
+            if (!part || part->isZeroWidth()) continue;
+            setUpPen(*part);
+            cairo_stroke_preserve(c);
+        }
+    } else {
+        setUpPen(stroke);
+        cairo_stroke_preserve(c);
+    }
+    cairo_new_path(c);
+    endShape();
+}
+
+// Winding rule 1 is even-odd, others non-zero.
+void vxDeviceGDIPlus::fillShape(const vxPaintOLD& paint, const float bounds[4], short windingRule) {
+    cairo_t* c = cr.get();
+    if (!setUpBrush(paint, bounds)) {
+        cairo_new_path(c);
+        return;
+    }
+    beginShape();
+    cairo_set_fill_rule(c, windingRule == 1 ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+    cairo_fill(c);
+    endShape();
+}
+
+// ---- the shapes after the common rules ------------------------------------
+
+void vxDeviceGDIPlus::strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1,
+                                 float y1, float x2, float y2, Offset offset) {
+    if (!isDrawing() || drawsNothing(stroke) || drawsNothing(paint) ||
+        isDegenerateLine(x1, y1, x2, y2)) {
+        return;
+    }
+    const Points x = {x1, x2}, y = {y1, y2};
+    float bounds[4];
+    boundsOf(x, y, offset.dx, offset.dy, bounds);
+    addPolyline(x, y, false, offset);
+    strokeShape(stroke, paint, bounds);
+    checkStatus(L"drawLine2D");
+}
+
+// All pairs in one path, stroked at once; a pair whose ends meet draws
+// nothing, as a single line would.
+void vxDeviceGDIPlus::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                  const Points& x, const Points& y, Offset offset) {
+    if (!isDrawing() || drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) < 2) {
+        return;
+    }
+    cairo_t* c = cr.get();
+    cairo_new_path(c);
+    const size_t count = numOfPoints(x, y);
+    for (size_t i = 0; i + 1 < count; i += 2) {
+        if (isDegenerateLine(x[i], y[i], x[i + 1], y[i + 1])) continue;
+        cairo_move_to(c, at(x[i] + offset.dx), at(y[i] + offset.dy));
+        cairo_line_to(c, at(x[i + 1] + offset.dx), at(y[i + 1] + offset.dy));
+    }
+    float bounds[4];
+    boundsOf(x, y, offset.dx, offset.dy, bounds);
+    strokeShape(stroke, paint, bounds);
+    checkStatus(L"drawLineArray2D");
+}
+
+void vxDeviceGDIPlus::strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                    const Points& x, const Points& y, const float bounds[4],
+                                    bool doClose, Offset offset) {
+    if (!isDrawing() || drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) == 0) {
+        return;
+    }
+    addPolyline(x, y, doClose, offset);
+    strokeShape(stroke, paint, bounds);
+    checkStatus(L"drawPolygon2D");
+}
+
+void vxDeviceGDIPlus::fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
+                                  const float bounds[4], short windingRule, Offset offset) {
+    if (!isDrawing() || drawsNothing(paint) || numOfPoints(x, y) == 0) return;
+    addPolyline(x, y, true, offset);
+    fillShape(paint, bounds, windingRule);
+    checkStatus(L"fillPolygon2D");
+}
+
+void vxDeviceGDIPlus::strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                 const vxVerbs& verbs, const Points& x, const Points& y,
+                                 const float bounds[4], Offset offset) {
+    if (!isDrawing() || drawsNothing(stroke) || drawsNothing(paint) || verbs.empty()) return;
+    addPath(verbs, x, y, offset);
+    strokeShape(stroke, paint, bounds);
+    checkStatus(L"drawPath2D");
+}
+
+void vxDeviceGDIPlus::fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x,
+                               const Points& y, const float bounds[4], short windingRule,
+                               Offset offset) {
+    if (!isDrawing() || drawsNothing(paint) || verbs.empty()) return;
+    addPath(verbs, x, y, offset);
+    fillShape(paint, bounds, windingRule);
+    checkStatus(L"fillPath2D");
+}
+
+// ---- the device's rows ----------------------------------------------------
+
+vxDeviceGDIPlus::Offset vxDeviceGDIPlus::offsetOf(const vxShadowOLD& shadow) {
+    return Offset{shadow.getXOffset(), shadow.getYOffset()};
+}
+
+void vxDeviceGDIPlus::drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1,
+                                 float y1, float x2, float y2) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokeLine(stroke, *paint, x1, y1, x2, y2, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1,
+                                 float y1, float x2, float y2) {
+    strokeLine(stroke, paint, x1, y1, x2, y2, Offset{});
+}
+
+void vxDeviceGDIPlus::drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                                      const vxPoints& x, const vxPoints& y) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokeLines(stroke, *paint, x, y, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                      const vxPoints& x, const vxPoints& y) {
+    strokeLines(stroke, paint, x, y, Offset{});
+}
+
+void vxDeviceGDIPlus::drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                                    const vxPoints& x, const vxPoints& y, const float bounds[4],
+                                    bool doClose) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokePolygon(stroke, *paint, x, y, bounds, doClose, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                    const vxPoints& x, const vxPoints& y, const float bounds[4],
+                                    bool doClose) {
+    strokePolygon(stroke, paint, x, y, bounds, doClose, Offset{});
+}
+
+void vxDeviceGDIPlus::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
+                                    const float bounds[4], short windingRule) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        fillPolygon(*paint, x, y, bounds, windingRule, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
+                                    const float bounds[4], short windingRule) {
+    fillPolygon(paint, x, y, bounds, windingRule, Offset{});
+}
+
+void vxDeviceGDIPlus::drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
+                                 const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                                 const float bounds[4]) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        strokePath(stroke, *paint, verbs, x, y, bounds, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                 const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
+                                 const float bounds[4]) {
+    strokePath(stroke, paint, verbs, x, y, bounds, Offset{});
+}
+
+void vxDeviceGDIPlus::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
+                                 const vxPoints& y, const float bounds[4], short windingRule) {
+    if (const vxPaintOLD* paint = shadow.getPaint())
+        fillPath(*paint, verbs, x, y, bounds, windingRule, offsetOf(shadow));
+}
+
+void vxDeviceGDIPlus::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
+                                 const vxPoints& y, const float bounds[4], short windingRule) {
+    fillPath(paint, verbs, x, y, bounds, windingRule, Offset{});
+}
+
+// Pictures come with the image classes; until then nothing is drawn.
+void vxDeviceGDIPlus::drawImage(const vxImage& image) {}
+
+}  // namespace Velarix
