@@ -1,5 +1,8 @@
 #include "drawing/vxChart.h"
 
+#include "drawing/vxAdditionBuilder.h"
+#include "drawing/vxLayer.h"
+#include "drawing/vxLayerManager.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
@@ -30,6 +33,37 @@ void vxChart::setChart(vxAssign& a) {
 
 void vxChart::assignChartOptions(vxAssign&) {
     if (chartFunction < 0) setError(vxErrLayout::kNoChartFunction, where(L"assignChartOptions"));
+}
+
+bool vxChart::tooManyAdditions() {
+    if (maxNumOfAdditions == -1 || getNumOfAdditions() < maxNumOfAdditions) return false;
+    setError(vxErrLimits::kTooManyAdditions, L"vxChart/tooManyAdditions/1");
+    return true;
+}
+
+void vxChart::assignAddition(vxAssign& a, float originX, float originY) {
+    if (tooManyAdditions()) return;
+    vxAdditionBuilder builder(getOwnerSettings(), originX, originY);
+    std::unique_ptr<vxGObjectOLD> object = builder.build(a);
+    if (!object) return copyError(builder.getError());
+    try {
+        additions.push_back(std::move(object));
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"assignAddition"));
+    }
+}
+
+// The additions lie behind what the chart draws of its own.
+void vxChart::setUpLayers(vxLayerManager* layerMng) {
+    if (!layerMng || additions.empty()) return;
+    std::unique_ptr<vxLayer> layer;
+    if (!create(layer, L"setUpAdditionLayers", kTypeChart, 0, layerMng->getCurrentClipRect())) {
+        return;
+    }
+    for (auto& addition : additions) layer->addShape(addition.get());
+    if (layer->isError()) return copyError(layer->getError());
+    layerMng->addLayer(std::move(layer));
+    if (layerMng->isError()) copyError(layerMng->getError());
 }
 
 long vxChart::getNumOfCalls(short group) const {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <vector>
 
 #include "drawing/vxComponent.h"
@@ -17,6 +18,13 @@ public:
 
     short getType() const override { return kTypeChart; }
     void assign(vxAssign& assign) override;
+    // An Add... call inside the chart; positions are relative to the point
+    // (originX, originY) of the view.
+    void assignAddition(vxAssign& assign, float originX, float originY);
+    void setUpLayers(vxLayerManager* layerMng) override;
+    long getNumOfAdditions() const { return static_cast<long>(additions.size()); }
+    // -1: no limit.
+    void setMaxNumOfAdditions(long value) { maxNumOfAdditions = value; }
 
     bool hasFixedPlotArea() const { return fixedPlotArea; }
     // The chart function that made the chart type; -1 for none yet.
@@ -29,10 +37,13 @@ public:
 private:
     void setChart(vxAssign& assign);
     void assignChartOptions(vxAssign& assign);
+    bool tooManyAdditions();
 
     bool fixedPlotArea;
     long chartFunction = -1;
     std::map<short, long> callsByGroup;
+    long maxNumOfAdditions = -1;
+    std::vector<std::unique_ptr<vxGObjectOLD>> additions;
 };
 
 }  // namespace Velarix

@@ -19,10 +19,23 @@ void vxLayer::setClipRect(const float rect[4]) {
 
 bool vxLayer::addShape(std::unique_ptr<vxGObjectOLD> shape) {
     if (!shape) return false;
+    vxGObjectOLD* kept = shape.get();
     try {
-        shapes.push_back(std::move(shape));
+        ownedShapes.push_back(std::move(shape));
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"addShape"));
+        return false;
+    }
+    return addShape(kept);
+}
+
+bool vxLayer::addShape(vxGObjectOLD* shape) {
+    if (!shape) return false;
+    try {
+        shapes.push_back(shape);
         drawingIndices.push_back(static_cast<long>(shapes.size()) - 1);
     } catch (const std::bad_alloc&) {
+        if (shapes.size() > drawingIndices.size()) shapes.pop_back();
         setError(vxErrRuntime::kOutOfMemory, where(L"addShape"));
         return false;
     }
@@ -31,7 +44,7 @@ bool vxLayer::addShape(std::unique_ptr<vxGObjectOLD> shape) {
 
 vxGObjectOLD* vxLayer::getShape(long index) const {
     if (index < 0 || index >= getNumOfShapes()) return nullptr;
-    return shapes[static_cast<size_t>(index)].get();
+    return shapes[static_cast<size_t>(index)];
 }
 
 void vxLayer::draw(vxDevice& device) {
@@ -55,7 +68,7 @@ void vxLayer::dump(short depth, std::ostream& out) const {
     vxDumpLine(out, "float clipRect[4]:  ", clipRect[0], clipRect[1]);
     vxDumpLine(out, "vector<long> drawingIndices:  ", drawingIndices);
     vxDumpLine(out, "Num of shapes: ", getNumOfShapes());
-    for (const auto& shape : shapes) shape->dump(static_cast<short>(depth - 1), out);
+    for (const vxGObjectOLD* shape : shapes) shape->dump(static_cast<short>(depth - 1), out);
     vxDumpEnd(out);
 }
 

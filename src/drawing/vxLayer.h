@@ -1,5 +1,7 @@
-// An ordered list of graphic objects with a clip rectangle. A layer owns the
-// objects put into it and draws them in the order of its drawing indices.
+// An ordered list of graphic objects with a clip rectangle, drawn in the
+// order of its drawing indices. A layer owns the objects handed over to it;
+// it may also draw objects owned elsewhere, such as the shapes a script
+// added to a view, which outlive every layer built from them.
 #pragma once
 
 #include <memory>
@@ -20,6 +22,8 @@ public:
 
     // Takes the object over; false (with error 5000) when memory runs out.
     bool addShape(std::unique_ptr<vxGObjectOLD> shape);
+    // Draws an object that stays with its owner.
+    bool addShape(vxGObjectOLD* shape);
     long getNumOfShapes() const { return static_cast<long>(shapes.size()); }
     vxGObjectOLD* getShape(long index) const;
 
@@ -53,7 +57,8 @@ private:
     short fractionalMetricsOverride = -1;
     long objectIndex = -1;
     std::vector<long> drawingIndices;
-    std::vector<std::unique_ptr<vxGObjectOLD>> shapes;
+    std::vector<vxGObjectOLD*> shapes;
+    std::vector<std::unique_ptr<vxGObjectOLD>> ownedShapes;
 };
 
 }  // namespace Velarix

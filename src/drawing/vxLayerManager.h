@@ -30,6 +30,7 @@ public:
     void setCurrentObjectIndex(long index) { currentObjectIndex = index; }
     long getCurrentObjectIndex() const { return currentObjectIndex; }
     void setCurrentClipRect(const float rect[4]);
+    const float* getCurrentClipRect() const { return currentClipRect; }
     const std::vector<long>& getDrawingIndices() const { return drawingIndices; }
 
     // Reordering of the drawing indices; positions out of range do nothing.

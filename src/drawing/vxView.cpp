@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/vxAdditionBuilder.h"
 #include "drawing/vxCalendar.h"
 #include "drawing/vxChart.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "drawing/vxTable.h"
+#include "furniture/vxBackground.h"
+#include "graphics/vxClip2D.h"
 #include "graphics/vxTransform2DOLD.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
@@ -51,7 +54,10 @@ vxView* vxView::assign(vxAssign& a) {
         case kGroupCalendars:
             return assignTableOrCalendar(a);
         case kGroupBackground:
+            assignBackground(a);
+            return this;
         case kGroupPrimitives:
+            assignAddition(a);
             return this;
         default:
             assignChart(a);
@@ -72,6 +78,30 @@ vxView* vxView::assignTableOrCalendar(vxAssign& a) {
             assignComponent(a, a.getFunctionGroup() == kGroupTables ? tableIndex : calendarIndex);
             return this;
     }
+}
+
+// An Add... call: the open chart takes it, otherwise the view.
+void vxView::assignAddition(vxAssign& a) {
+    if (chartIndex >= 0) {
+        auto* chart = static_cast<vxChart*>(getObject(chartIndex));
+        chart->assignAddition(a, viewBounds[0], viewBounds[1]);
+        if (chart->isError()) copyError(chart->getError());
+        return;
+    }
+    if (getNumOfObjects() >= kMaxObjects) {
+        setError(vxErrLimits::kTooManyObjects, L"vxView/tooManyObjects/1");
+        return;
+    }
+    vxAdditionBuilder builder(getOwnerSettings(), viewBounds[0], viewBounds[1]);
+    std::unique_ptr<vxGObjectOLD> object = builder.build(a);
+    if (!object) return copyError(builder.getError());
+    addObject(std::move(object), L"assignAdditions");
+}
+
+void vxView::assignBackground(vxAssign& a) {
+    if (!background && !create(background, L"createBackground", getOwnerSettings())) return;
+    background->assign(a);
+    if (background->isError()) copyError(background->getError());
 }
 
 bool vxView::isComponentOpen() const {
@@ -217,14 +247,21 @@ void vxView::assignComponent(vxAssign& a, long index) {
     if (component->isError()) copyError(component->getError());
 }
 
+// The view's rectangle, less half the width of a visible background
+// border on each side, within `b`.
 void vxView::getInnerRect(const float b[4], float inner[4]) const {
-    inner[0] = std::max(viewBounds[0], b[0]);
-    inner[1] = std::max(viewBounds[1], b[1]);
-    inner[2] = std::min(viewBounds[2], b[2]);
-    inner[3] = std::min(viewBounds[3], b[3]);
+    const float border = background ? background->getBorderWidth() * 0.5f : 0.0f;
+    inner[0] = std::max(viewBounds[0] + border, b[0]);
+    inner[1] = std::max(viewBounds[1] + border, b[1]);
+    inner[2] = std::min(viewBounds[2] - border, b[2]);
+    inner[3] = std::min(viewBounds[3] - border, b[3]);
 }
 
 void vxView::setUp(const float b[4]) {
+    if (background) {
+        background->setUp(viewBounds);
+        if (background->isError()) return copyError(background->getError());
+    }
     float inner[4];
     getInnerRect(b, inner);
     for (auto& object : objects) {
@@ -237,28 +274,67 @@ void vxView::setUp(const float b[4]) {
     }
 }
 
+std::unique_ptr<vxLayer> vxView::beginLayer(const float clip[4]) {
+    std::unique_ptr<vxLayer> layer;
+    std::unique_ptr<vxClip2D> shape;
+    if (!create(layer, L"setUpLayers", kTypeView, 0, clip) ||
+        !create(shape, L"setUpLayers", getOwnerSettings())) {
+        return nullptr;
+    }
+    shape->setRect(clip[0], clip[1], clip[2], clip[3]);
+    layer->addShape(std::move(shape));
+    return layer;
+}
+
+// The background's layer, then the view's objects in script order: the
+// additions on layers of the view, each begun with the view's clip, and
+// charts, tables, calendars and sub-views on layers of their own. A layer
+// that holds no addition is not handed on.
 void vxView::setUpLayers(vxLayerManager* layerMng) {
     if (!layerMng) return;
+    if (background) {
+        const float border = background->getBorderWidth() * 0.5f + 1.0f;
+        const float planeClip[4] = {viewBounds[0] - border, viewBounds[1] - border,
+                                    viewBounds[2] + border, viewBounds[3] + border};
+        background->setUpLayer(layerMng, planeClip);
+        if (background->isError()) return copyError(background->getError());
+    }
     float clip[4];
     getInnerRect(viewBounds, clip);
     clip[0] -= 1.0f;
     clip[1] -= 1.0f;
     clip[2] += 1.0f;
     clip[3] += 1.0f;
-    auto layer = std::make_unique<vxLayer>(kTypeView, 0, clip);
+    std::unique_ptr<vxLayer> layer;
+    auto flush = [&] {
+        if (layer) layerMng->addLayer(std::move(layer));
+        layer.reset();
+        return !layerMng->isError() || (copyError(layerMng->getError()), false);
+    };
     for (long i = 0; i < getNumOfObjects(); ++i) {
         vxGObjectOLD* object = getObject(i);
         layerMng->setCurrentObjectIndex(i);
-        if (object->getType() == kTypeView) {
-            static_cast<vxView*>(object)->setUpLayers(layerMng);
-        } else if (auto* component = dynamic_cast<vxComponent*>(object)) {
-            component->setUpLayers(layerMng);
+        layerMng->setCurrentClipRect(clip);
+        if (object->getType() == kTypeView || dynamic_cast<vxComponent*>(object)) {
+            if (!flush()) return;
+            if (object->getType() == kTypeView) {
+                static_cast<vxView*>(object)->setUpLayers(layerMng);
+            } else {
+                static_cast<vxComponent*>(object)->setUpLayers(layerMng);
+            }
+        } else {
+            if (!layer && !(layer = beginLayer(clip))) return;
+            // A reset of the clip goes back to the view's clip.
+            if (auto* reset = dynamic_cast<vxClip2D*>(object); reset && !reset->hasShape()) {
+                reset->setRect(clip[0], clip[1], clip[2], clip[3]);
+            }
+            layer->addShape(object);
+            if (layer->isError()) return copyError(layer->getError());
         }
         if (object->isError()) return copyError(object->getError());
         if (layerMng->isError()) return copyError(layerMng->getError());
     }
-    layerMng->addLayer(std::move(layer));
-    if (layerMng->isError()) copyError(layerMng->getError());
+    flush();
 }
 
 void vxView::setUpCurveFittingData(vxCurveFittingData* data) {

@@ -22,6 +22,7 @@
 namespace Velarix {
 
 class vxAssign;
+class vxBackground;
 class vxChart;
 class vxLayer;
 class vxLayerManager;
@@ -54,6 +55,7 @@ public:
     long getCalendarIndex() const { return calendarIndex; }
     // The rectangle the objects are laid out in.
     void getInnerRect(const float bounds[4], float inner[4]) const;
+    vxBackground* getBackground() const { return background.get(); }
 
     void dump(short depth, std::ostream& out) const override;
 
@@ -64,6 +66,11 @@ protected:
 private:
     vxView* assignLayout(vxAssign& assign);
     vxView* assignTableOrCalendar(vxAssign& assign);
+    void assignAddition(vxAssign& assign);
+    void assignBackground(vxAssign& assign);
+    // The layer that takes the view's additions from here on, clipped to
+    // `clip`, which its first shape sets on the device.
+    std::unique_ptr<vxLayer> beginLayer(const float clip[4]);
     vxView* openView(vxAssign& assign);
     void openChart(vxAssign& assign, bool fixedPlotArea, const float frame[4]);
     void openComponent(short type, long& index);
@@ -84,6 +91,7 @@ private:
     long calendarIndex = -1;
     float viewBounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     std::vector<std::unique_ptr<vxGObjectOLD>> objects;
+    std::unique_ptr<vxBackground> background;
     vxView* parent;  // not owned; null for the root
 };
 

@@ -1,7 +1,10 @@
 #include "graphics/vxLine2DOLD.h"
 
 #include <algorithm>
+#include <cmath>
+#include <memory>
 
+#include "graphics/vxArrowSymbol.h"
 #include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxGObjectState.h"
 #include "graphics/vxTransform2DOLD.h"
@@ -46,6 +49,17 @@ void vxLine2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, cons
 void vxLine2DOLD::outlineShape(vxDevice& device, const vxStrokeOLD& stroke,
                                const vxShadowOLD& shadow, const float[4]) {
     device.drawLine2D(stroke, shadow, x1, y1, x2, y2);
+}
+
+bool vxLine2DOLD::addArrow(bool atEnd, const vxArrowSymbol& arrow) {
+    std::unique_ptr<vxArrowSymbol> head;
+    if (!create(head, atEnd ? L"addArrow" : L"addArrow", getOwnerSettings())) return false;
+    head->copy(&arrow);
+    const float dx = atEnd ? x2 - x1 : x1 - x2;
+    const float dy = atEnd ? y2 - y1 : y1 - y2;
+    head->setCenter(atEnd ? x2 : x1, atEnd ? y2 : y1);
+    head->setOrientation(std::atan2(-dy, dx));
+    return addSymbol(*head);
 }
 
 void vxLine2DOLD::copy(const vxLine2DOLD* from) {

@@ -8,6 +8,8 @@
 
 namespace Velarix {
 
+class vxArrowSymbol;
+
 class vxLine2DOLD : public vxGObject2D {
 public:
     explicit vxLine2DOLD(vxUserSettings* owner = nullptr);
@@ -17,6 +19,9 @@ public:
     short getType() const override { return kTypeLine; }
 
     void set(float x1, float y1, float x2, float y2);
+    // A copy of `arrow` as an attached symbol with its tip on the second
+    // point (atEnd) or on the first, pointing away from the line.
+    bool addArrow(bool atEnd, const vxArrowSymbol& arrow);
     float getX1() const { return x1; }
     float getY1() const { return y1; }
     float getX2() const { return x2; }

@@ -8,6 +8,7 @@
 #include "graphics/vxTransform2DOLD.h"
 #include "host/vxLog.h"
 #include "output/vxDevice.h"
+#include "output/vxImage.h"
 
 namespace Velarix {
 
@@ -91,6 +92,21 @@ void vxQuad2D::outlineShape(vxDevice& device, const vxStrokeOLD& stroke, const v
     device.drawPolygon2D(stroke, shadow, x, y, b, true);
 }
 
+bool vxQuad2D::assignAddPicture(vxAssign& assign) {
+    if (!picture && !create(picture, L"createPicture")) return false;
+    if (!picture->assign(assign)) copyError(picture->getError());
+    return !isError();
+}
+
+void vxQuad2D::drawBody(vxDevice& device) {
+    vxGObject2D::drawBody(device);
+    if (!picture || !isVisible() || picture->isEmpty()) return;
+    float b[4];
+    getBounds(b);
+    picture->setMapping(b);
+    picture->draw(device);
+}
+
 void vxQuad2D::copy(const vxQuad2D* from) {
     setDefaults();
     if (!from || from == this) return;
@@ -98,11 +114,15 @@ void vxQuad2D::copy(const vxQuad2D* from) {
     getAppearance()->copy(from->getAppearance());
     if (getAppearance()->isError()) copyError(getAppearance()->getError());
     set(from->x.data(), from->y.data());
+    if (from->picture && create(picture, L"createPicture") && !picture->set(from->picture.get())) {
+        copyError(picture->getError());
+    }
 }
 
 void vxQuad2D::setDefaults() {
     vxGObject2D::setDefaults();
     set(0.0f, 0.0f, 0.0f, 0.0f);
+    picture.reset();
 }
 
 void vxQuad2D::dump(short depth, std::ostream& out) const {

@@ -2,12 +2,16 @@
 // outlined closed, with its corners as the device's point list.
 #pragma once
 
+#include <memory>
 #include <ostream>
 #include <vector>
 
 #include "graphics/vxGObject2D.h"
 
 namespace Velarix {
+
+class vxAssign;
+class vxImage;
 
 class vxQuad2D : public vxGObject2D {
 public:
@@ -31,6 +35,12 @@ public:
     // Applies a map to the corners.
     void transform(const vxTransform2DOLD& transform);
 
+    // A picture placed in the quad's bounds, drawn over its fill: the
+    // script form of AddPicture and BackgroundPict from the source kind on.
+    bool assignAddPicture(vxAssign& assign);
+    vxImage* getPicture() const { return picture.get(); }
+    void drawBody(vxDevice& device) override;
+
     void copy(const vxQuad2D* from);
     void setDefaults() override;
     void dump(short depth, std::ostream& out) const override;
@@ -50,6 +60,7 @@ private:
 
     std::vector<float> x = std::vector<float>(4, 0.0f);
     std::vector<float> y = std::vector<float>(4, 0.0f);
+    std::unique_ptr<vxImage> picture;
 };
 
 }  // namespace Velarix

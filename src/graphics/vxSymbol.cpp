@@ -7,6 +7,8 @@
 #include "graphics/vxPaintOLD.h"
 #include "graphics/vxShadowOLD.h"
 #include "graphics/vxStrokeOLD.h"
+#include "graphics/vxTextSymbol.h"
+#include "graphics/vxTextureSymbol.h"
 #include "graphics/vxTransform2DOLD.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
@@ -24,6 +26,10 @@ std::unique_ptr<vxSymbol> vxSymbol::make(short type, vxUserSettings* owner) {
             return std::make_unique<vxBasicSymbol>(owner);
         case kTypeArrowSymbol:
             return std::make_unique<vxArrowSymbol>(owner);
+        case kTypeTextSymbol:
+            return std::make_unique<vxTextSymbol>(owner);
+        case kTypeTextureSymbol:
+            return std::make_unique<vxTextureSymbol>(owner);
         default:
             return nullptr;
     }

@@ -88,6 +88,7 @@ namespace vxErrLimits {
 constexpr short kTooManyObjects = 3000;
 constexpr short kTooManyOutputFiles = 3001;
 constexpr short kTooManySubViews = 3002;
+constexpr short kTooManyAdditions = 3003;
 constexpr short kTooManyBackgrounds = 3004;
 constexpr short kTooManyStyles = 3005;
 }  // namespace vxErrLimits

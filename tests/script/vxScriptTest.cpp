@@ -24,7 +24,10 @@ protected:
     const vxAssign& read(const std::wstring& text) {
         script.tokenize(L"OpenDrawing(400; 300)\n" + text);
         EXPECT_FALSE(script.isError()) << describe();
-        return *script.getAssign();
+        // The view has read the call's arguments; look at them from the start.
+        vxAssign& assign = *script.getAssign();
+        assign.addToArgumentOffset(-assign.getArgumentOffset());
+        return assign;
     }
 
     std::string describe() const {

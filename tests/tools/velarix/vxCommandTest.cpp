@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "host/vxLog.h"
+#include "support/vxPictureFiles.h"
 #include "support/vxTestRun.h"
 
 namespace Velarix::test {
@@ -80,7 +81,7 @@ TEST(VelarixCommand, ScriptWithoutOutputWritesNothing) {
 TEST(VelarixCommand, RelativeFileNamesResolveAgainstTheBase) {
     const std::string folder = makeTempFolder("base");
     fs::create_directories(folder + "/pictures");
-    writeFile(folder + "/pictures/logo.png", "not really a picture");
+    writeFile(folder + "/pictures/logo.png", test::encodePNG(test::makePicture(4, 4)));
     const std::string script =
         "OpenDrawing(400; 300)\nAddPicture(0; 0; 10; 10; file; \"pictures/logo.png\")\n";
     EXPECT_EQ(runVelarix(script, {"--base", folder}).status, 0);

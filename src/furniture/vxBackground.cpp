@@ -1,0 +1,87 @@
+#include "furniture/vxBackground.h"
+
+#include "drawing/vxLayer.h"
+#include "drawing/vxLayerManager.h"
+#include "graphics/vxAppearanceScript.h"
+#include "graphics/vxGObjectAppearanceOLD.h"
+#include "graphics/vxPath2DOLD.h"
+#include "graphics/vxQuad2D.h"
+#include "graphics/vxStrokeOLD.h"
+#include "host/vxLog.h"
+#include "script/vxAssign.h"
+#include "script/vxFunctionIds.h"
+
+namespace Velarix {
+
+vxBackground::vxBackground(vxUserSettings* owner, vxChart* owningChart)
+    : vxErrorHolder(L"vxBackground"), ownerSettings(owner), chart(owningChart) {}
+
+vxBackground::~vxBackground() = default;
+
+bool vxBackground::createQuad() {
+    if (quad) return true;
+    if (!create(quad, L"createBackground", ownerSettings)) return false;
+    quad->getAppearance()->borderStrokeOf(vxGObjectAppearanceOLD::kBasicStroke);
+    return true;
+}
+
+// Background: fill, border and shadow, each part only when its colour or
+// widths are given. BackgroundPict: a picture in the plane.
+void vxBackground::assign(vxAssign& a) {
+    switch (a.getFunction()) {
+        case kBackground:
+            if (!createQuad()) return;
+            vxAppearanceScript::readFill(*quad, a, ownerSettings, vxAppearanceScript::kSkipPart) &&
+                vxAppearanceScript::readBorder(*quad, a, ownerSettings,
+                                               vxAppearanceScript::kSkipPart) &&
+                vxAppearanceScript::readShadow(*quad, a, ownerSettings);
+            if (quad->isError()) copyError(quad->getError());
+            return;
+        case kBackgroundPict:
+            if (!create(picture, L"createPicture", ownerSettings)) return;
+            picture->assignAddPicture(a);
+            if (picture->isError()) copyError(picture->getError());
+            return;
+        default:
+            return;
+    }
+}
+
+float vxBackground::getBorderWidth() const {
+    if (!quad || !quad->hasBorder()) return 0.0f;
+    const vxStrokeOLD* stroke = quad->getBorderStroke();
+    return stroke ? stroke->getLineWidth() : 0.0f;
+}
+
+void vxBackground::setUp(const float r[4]) {
+    if (quad) {
+        quad->clear();
+        quad->addRect(r[0], r[1], r[2], r[3]);
+        if (quad->isError()) return copyError(quad->getError());
+    }
+    if (picture) picture->set(r[0], r[1], r[2], r[3]);
+}
+
+void vxBackground::setUpLayer(vxLayerManager* layerMng, const float clip[4]) {
+    if (!layerMng || (!quad && !picture)) return;
+    std::unique_ptr<vxLayer> layer;
+    if (!create(layer, L"setUpLayer", kLayerType, planeIndex, clip)) return;
+    if (quad) layer->addShape(quad.get());
+    if (picture) layer->addShape(picture.get());
+    if (layer->isError()) return copyError(layer->getError());
+    layerMng->addLayer(std::move(layer));
+    if (layerMng->isError()) copyError(layerMng->getError());
+}
+
+void vxBackground::dump(short depth, std::ostream& out) const {
+    if (depth <= 0) return;
+    vxDumpHeader(out, "vxBackground");
+    vxDumpLine(out, "short planeIndex:     ", planeIndex);
+    vxDumpLine(out, "float thickness:      ", thickness);
+    vxDumpLine(out, "float xDepth,yDepth:  ", xDepth, yDepth);
+    if (quad) quad->dump(static_cast<short>(depth - 1), out);
+    if (picture) picture->dump(static_cast<short>(depth - 1), out);
+    vxDumpEnd(out);
+}
+
+}  // namespace Velarix

@@ -1,0 +1,57 @@
+// One rectangular plane behind a view or a chart: a filled and framed path,
+// and optionally a picture placed in it. The script gives its paints with
+// Background (fill, border and shadow) and its picture with BackgroundPict;
+// setUp puts the plane on a rectangle, setUpLayer hands it to the layers.
+#pragma once
+
+#include <memory>
+#include <ostream>
+
+#include "settings/vxErrorHolder.h"
+
+namespace Velarix {
+
+class vxAssign;
+class vxChart;
+class vxLayerManager;
+class vxPath2DOLD;
+class vxQuad2D;
+class vxUserSettings;
+
+class vxBackground : public vxErrorHolder {
+public:
+    // Layer type of backgrounds.
+    static constexpr long kLayerType = 60;
+
+    explicit vxBackground(vxUserSettings* owner, vxChart* chart = nullptr);
+    ~vxBackground() override;
+
+    void assign(vxAssign& assign);
+    // Places the plane on left, top, right, bottom.
+    void setUp(const float rect[4]);
+    // A layer of type 60 with the plane and its picture, clipped to `clip`.
+    void setUpLayer(vxLayerManager* layerMng, const float clip[4]);
+
+    // The width of the border when one shows, else 0.
+    float getBorderWidth() const;
+    vxPath2DOLD* getQuad() const { return quad.get(); }
+    vxQuad2D* getPicture() const { return picture.get(); }
+    short getPlaneIndex() const { return planeIndex; }
+    void setPlaneIndex(short value) { planeIndex = value; }
+
+    void dump(short depth, std::ostream& out) const;
+
+private:
+    bool createQuad();
+
+    vxUserSettings* ownerSettings;  // not owned
+    vxChart* chart;                 // not owned; null behind a view
+    std::unique_ptr<vxPath2DOLD> quad;
+    std::unique_ptr<vxQuad2D> picture;
+    short planeIndex = 1;
+    float thickness = 0.0f;
+    float xDepth = 0.0f;
+    float yDepth = 0.0f;
+};
+
+}  // namespace Velarix
