@@ -4,7 +4,7 @@
 
 namespace Velarix {
 
-vxComponent::vxComponent(std::wstring name, vxUserSettings* owner, const float f[4])
+vxComponent::vxComponent(const wchar_t* name, vxUserSettings* owner, const float f[4])
     : vxGObjectOLD(std::move(name), owner), frame{f[0], f[1], f[2], f[3]} {}
 
 vxComponent::~vxComponent() = default;

@@ -13,7 +13,7 @@ class vxCurveFittingData;
 
 class vxComponent : public vxGObjectOLD {
 public:
-    vxComponent(std::wstring name, vxUserSettings* owner, const float frame[4]);
+    vxComponent(const wchar_t* name, vxUserSettings* owner, const float frame[4]);
     ~vxComponent() override;
 
     virtual void assign(vxAssign& assign) = 0;

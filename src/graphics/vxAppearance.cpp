@@ -6,7 +6,7 @@
 
 namespace Velarix {
 
-vxAppearance::vxAppearance(std::wstring name) : vxErrorHolder(std::move(name)) {}
+vxAppearance::vxAppearance(const wchar_t* name) : vxErrorHolder(name) {}
 
 vxAppearance::~vxAppearance() = default;
 

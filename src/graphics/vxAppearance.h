@@ -13,7 +13,7 @@ namespace Velarix {
 
 class vxAppearance : public vxErrorHolder {
 public:
-    explicit vxAppearance(std::wstring name);
+    explicit vxAppearance(const wchar_t* name);
     ~vxAppearance() override;
 
     short getState() const { return state; }

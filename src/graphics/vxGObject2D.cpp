@@ -11,7 +11,7 @@
 
 namespace Velarix {
 
-vxGObject2D::vxGObject2D(std::wstring name, vxUserSettings* owner)
+vxGObject2D::vxGObject2D(const wchar_t* name, vxUserSettings* owner)
     : vxGObjectOLD(std::move(name), owner) {}
 
 vxGObject2D::~vxGObject2D() = default;

@@ -18,7 +18,7 @@ class vxSymbolArray;
 
 class vxGObject2D : public vxGObjectOLD {
 public:
-    vxGObject2D(std::wstring name, vxUserSettings* owner);
+    vxGObject2D(const wchar_t* name, vxUserSettings* owner);
     ~vxGObject2D() override;
 
     // When visible and with a shadow: the fill, then the outline, moved by

@@ -12,8 +12,8 @@
 
 namespace Velarix {
 
-vxGObjectOLD::vxGObjectOLD(std::wstring name, vxUserSettings* owner)
-    : vxErrorHolder(std::move(name)), ownerSettings(owner) {
+vxGObjectOLD::vxGObjectOLD(const wchar_t* name, vxUserSettings* owner)
+    : vxErrorHolder(name), ownerSettings(owner) {
     try {
         appearance = std::make_unique<vxGObjectAppearanceOLD>(owner);
         state = std::make_unique<vxGObjectState>();

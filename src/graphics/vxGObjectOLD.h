@@ -55,7 +55,7 @@ enum vxGObjectType : short {
 
 class vxGObjectOLD : public vxErrorHolder {
 public:
-    vxGObjectOLD(std::wstring name, vxUserSettings* owner);
+    vxGObjectOLD(const wchar_t* name, vxUserSettings* owner);
     ~vxGObjectOLD() override;
 
     virtual short getType() const = 0;

@@ -17,7 +17,7 @@ constexpr long kNumbersPerStop = 5;
 
 }  // namespace
 
-vxGradientPaint::vxGradientPaint(std::wstring name) : vxPaintOLD(std::move(name)) {}
+vxGradientPaint::vxGradientPaint(const wchar_t* name) : vxPaintOLD(name) {}
 
 vxGradientPaint::~vxGradientPaint() = default;
 

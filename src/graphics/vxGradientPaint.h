@@ -21,7 +21,7 @@ public:
     static constexpr short kRepeat = 2;
     static constexpr short kReflect = 3;
 
-    explicit vxGradientPaint(std::wstring name);
+    explicit vxGradientPaint(const wchar_t* name);
     ~vxGradientPaint() override;
 
     // None when every colour is fully transparent; the other two need all

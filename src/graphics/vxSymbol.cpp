@@ -15,7 +15,7 @@
 
 namespace Velarix {
 
-vxSymbol::vxSymbol(std::wstring name, vxUserSettings* owner)
+vxSymbol::vxSymbol(const wchar_t* name, vxUserSettings* owner)
     : vxGObjectOLD(std::move(name), owner) {}
 
 vxSymbol::~vxSymbol() = default;

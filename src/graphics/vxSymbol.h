@@ -26,7 +26,7 @@ class vxPaintOLD;
 
 class vxSymbol : public vxGObjectOLD {
 public:
-    vxSymbol(std::wstring name, vxUserSettings* owner);
+    vxSymbol(const wchar_t* name, vxUserSettings* owner);
     ~vxSymbol() override;
 
     // A new symbol of the class with the type code and its defaults; null

@@ -9,7 +9,7 @@
 
 namespace Velarix {
 
-vxDevice::vxDevice(std::wstring name) : vxErrorHolder(std::move(name)) {}
+vxDevice::vxDevice(const wchar_t* name) : vxErrorHolder(name) {}
 
 vxDevice::~vxDevice() = default;
 

@@ -48,7 +48,7 @@ public:
     // Clip modes; anything else replaces the clip.
     enum ClipMode : short { kIntersect = 1, kExclude = 2, kUnion = 3 };
 
-    explicit vxDevice(std::wstring name);
+    explicit vxDevice(const wchar_t* name);
     ~vxDevice() override;
 
     virtual short getDeviceID() const = 0;

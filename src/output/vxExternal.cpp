@@ -4,7 +4,7 @@
 
 namespace Velarix {
 
-vxExternal::vxExternal(std::wstring name) : vxErrorHolder(std::move(name)) {}
+vxExternal::vxExternal(const wchar_t* name) : vxErrorHolder(name) {}
 
 vxExternal::~vxExternal() = default;
 

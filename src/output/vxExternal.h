@@ -30,7 +30,7 @@ constexpr short kFormatNone = static_cast<short>(65535 - 65536);
 
 class vxExternal : public vxErrorHolder {
 public:
-    explicit vxExternal(std::wstring name);
+    explicit vxExternal(const wchar_t* name);
     ~vxExternal() override;
 
     bool isOpen() const { return mIsOpen; }

@@ -4,7 +4,7 @@ namespace Velarix {
 
 vxReadClipboard::vxReadClipboard() : vxReadClipboard(L"vxReadClipboard") {}
 
-vxReadClipboard::vxReadClipboard(std::wstring name) : vxReadExternal(std::move(name)) {}
+vxReadClipboard::vxReadClipboard(const wchar_t* name) : vxReadExternal(name) {}
 
 vxReadClipboard::~vxReadClipboard() = default;
 

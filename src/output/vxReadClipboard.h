@@ -17,7 +17,7 @@ public:
     std::unique_ptr<vxReadExternal> clone() const override;
 
 protected:
-    explicit vxReadClipboard(std::wstring name);
+    explicit vxReadClipboard(const wchar_t* name);
 };
 
 }  // namespace Velarix

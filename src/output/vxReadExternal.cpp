@@ -9,7 +9,7 @@
 
 namespace Velarix {
 
-vxReadExternal::vxReadExternal(std::wstring name) : vxExternal(std::move(name)) {}
+vxReadExternal::vxReadExternal(const wchar_t* name) : vxExternal(name) {}
 
 vxReadExternal::~vxReadExternal() = default;
 

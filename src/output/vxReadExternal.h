@@ -27,7 +27,7 @@ enum vxSourceKind : short {
 
 class vxReadExternal : public vxExternal {
 public:
-    explicit vxReadExternal(std::wstring name);
+    explicit vxReadExternal(const wchar_t* name);
     ~vxReadExternal() override;
 
     // A new source of this platform for a kind code; null for a code that

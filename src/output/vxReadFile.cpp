@@ -41,7 +41,7 @@ void vxReadFile::FileCloser::operator()(std::FILE* f) const {
 
 vxReadFile::vxReadFile() : vxReadFile(L"vxReadFile") {}
 
-vxReadFile::vxReadFile(std::wstring name) : vxReadExternal(std::move(name)) {}
+vxReadFile::vxReadFile(const wchar_t* name) : vxReadExternal(name) {}
 
 vxReadFile::~vxReadFile() = default;
 

@@ -54,7 +54,7 @@ public:
     bool readBytes(std::vector<uint8_t>& bytes, vxErrorHolder& report) const;
 
 protected:
-    explicit vxReadFile(std::wstring name);
+    explicit vxReadFile(const wchar_t* name);
     void dumpFields(std::ostream& out) const override;
     void copyTo(vxReadFile& to) const;
 

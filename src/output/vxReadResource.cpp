@@ -28,7 +28,7 @@ bool toNumber(const std::wstring& text, long& value) {
 
 vxReadResource::vxReadResource() : vxReadResource(L"vxReadResource") {}
 
-vxReadResource::vxReadResource(std::wstring name) : vxReadExternal(std::move(name)) {}
+vxReadResource::vxReadResource(const wchar_t* name) : vxReadExternal(name) {}
 
 vxReadResource::~vxReadResource() = default;
 

@@ -29,7 +29,7 @@ public:
     const vxGradientPaint* getGradient() const override;
 
 protected:
-    explicit vxReadResource(std::wstring name);
+    explicit vxReadResource(const wchar_t* name);
     void dumpFields(std::ostream& out) const override;
     void copyTo(vxReadResource& to) const;
 

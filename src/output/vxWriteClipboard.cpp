@@ -2,7 +2,7 @@
 
 namespace Velarix {
 
-vxWriteClipboard::vxWriteClipboard(std::wstring name) : vxWriteExternal(std::move(name)) {}
+vxWriteClipboard::vxWriteClipboard(const wchar_t* name) : vxWriteExternal(name) {}
 
 vxWriteClipboard::~vxWriteClipboard() = default;
 

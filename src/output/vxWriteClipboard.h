@@ -8,7 +8,7 @@ namespace Velarix {
 
 class vxWriteClipboard : public vxWriteExternal {
 public:
-    explicit vxWriteClipboard(std::wstring name);
+    explicit vxWriteClipboard(const wchar_t* name);
     ~vxWriteClipboard() override;
 
     short getType() const override { return kTargetClipboard; }

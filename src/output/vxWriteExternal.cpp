@@ -7,7 +7,7 @@
 
 namespace Velarix {
 
-vxWriteExternal::vxWriteExternal(std::wstring name) : vxExternal(std::move(name)) {}
+vxWriteExternal::vxWriteExternal(const wchar_t* name) : vxExternal(name) {}
 
 vxWriteExternal::~vxWriteExternal() = default;
 

@@ -27,7 +27,7 @@ enum vxTargetType : short {
 
 class vxWriteExternal : public vxExternal {
 public:
-    explicit vxWriteExternal(std::wstring name);
+    explicit vxWriteExternal(const wchar_t* name);
     ~vxWriteExternal() override;
 
     // A new target of this platform for a type code; null for a code that

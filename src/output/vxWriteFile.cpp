@@ -19,7 +19,7 @@ size_t extensionStart(const std::wstring& path) {
 
 }  // namespace
 
-vxWriteFile::vxWriteFile(std::wstring name) : vxWriteExternal(std::move(name)) {}
+vxWriteFile::vxWriteFile(const wchar_t* name) : vxWriteExternal(name) {}
 
 vxWriteFile::~vxWriteFile() = default;
 

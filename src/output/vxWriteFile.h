@@ -29,7 +29,7 @@ public:
     static constexpr size_t kMaxUniquePathLength = 261;
     static constexpr long kMaxFileCounter = 32767;
 
-    explicit vxWriteFile(std::wstring name);
+    explicit vxWriteFile(const wchar_t* name);
     ~vxWriteFile() override;
 
     short getType() const override { return kTargetFile; }

@@ -4,7 +4,7 @@
 
 namespace Velarix {
 
-vxWriteStream::vxWriteStream(std::wstring name) : vxWriteExternal(std::move(name)) {}
+vxWriteStream::vxWriteStream(const wchar_t* name) : vxWriteExternal(name) {}
 
 vxWriteStream::~vxWriteStream() = default;
 

@@ -8,7 +8,7 @@ namespace Velarix {
 
 class vxWriteStream : public vxWriteExternal {
 public:
-    explicit vxWriteStream(std::wstring name);
+    explicit vxWriteStream(const wchar_t* name);
     ~vxWriteStream() override;
 
     short getType() const override { return kTargetStream; }

@@ -82,6 +82,11 @@ void writeDescription(std::wostream& out, const vxError& error, short languageID
 
 vxError::vxError() = default;
 
+const std::wstring& vxError::getClassName() const {
+    static const std::wstring name = L"vxError";
+    return name;
+}
+
 vxError::~vxError() = default;
 
 void vxError::getMessage(std::wstring& dest, short languageID, const std::wstring& flags) const {
@@ -116,7 +121,7 @@ bool vxError::createParsingError() {
     try {
         parsingError = std::make_unique<vxParsingError>();
     } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, className + L"/createParsingError/1");
+        setError(vxErrRuntime::kOutOfMemory, getClassName() + L"/createParsingError/1");
         return false;
     }
     return true;
@@ -127,7 +132,7 @@ bool vxError::createRuntimeError() {
     try {
         runtimeError = std::make_unique<vxRuntimeError>();
     } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, className + L"/createRuntimeError/1");
+        setError(vxErrRuntime::kOutOfMemory, getClassName() + L"/createRuntimeError/1");
         return false;
     }
     return true;
@@ -221,7 +226,7 @@ void vxError::dump(short depth, std::ostream& out) const {
         vxDumpLine(out, "vxError::errorCode: ", errorCode);
         return;
     }
-    vxDumpHeader(out, vxNarrow(className));
+    vxDumpHeader(out, vxNarrow(getClassName()));
     vxDumpLine(out, "short errorCode:        ", errorCode);
     vxDumpLine(out, "wstring messagePrefix:  ", messagePrefix);
     vxDumpLine(out, "wstring location:       ", location);

@@ -25,7 +25,7 @@ public:
     virtual ~vxError();
 
     virtual bool isError() const { return errorCode > 0; }
-    virtual const std::wstring& getClassName() const { return className; }
+    virtual const std::wstring& getClassName() const;
     virtual void getMessage(std::wstring& dest, short languageID, const std::wstring& flags) const;
     virtual void clear();
 
@@ -65,7 +65,6 @@ private:
     bool createParsingError();
     bool createRuntimeError();
 
-    std::wstring className = L"vxError";
     std::unique_ptr<vxParsingError> parsingError;
     std::unique_ptr<vxRuntimeError> runtimeError;
     short errorCode = 0;

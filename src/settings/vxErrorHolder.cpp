@@ -2,7 +2,7 @@
 
 namespace Velarix {
 
-vxErrorHolder::vxErrorHolder(std::wstring name) : className(std::move(name)) {
+vxErrorHolder::vxErrorHolder(const wchar_t* name) : className(name) {
     try {
         error = std::make_unique<vxError>();
     } catch (const std::bad_alloc&) {
@@ -45,7 +45,7 @@ void vxErrorHolder::clearError() {
 }
 
 std::wstring vxErrorHolder::where(const wchar_t* method, int number) const {
-    return className + L"/" + method + L"/" + std::to_wstring(number);
+    return std::wstring(className) + L"/" + method + L"/" + std::to_wstring(number);
 }
 
 }  // namespace Velarix

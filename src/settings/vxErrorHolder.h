@@ -14,10 +14,11 @@ namespace Velarix {
 
 class vxErrorHolder {
 public:
-    explicit vxErrorHolder(std::wstring name);
+    // The name is a literal that outlives the holder.
+    explicit vxErrorHolder(const wchar_t* name);
     virtual ~vxErrorHolder();
 
-    const std::wstring& getClassName() const { return className; }
+    std::wstring getClassName() const { return className; }
     vxError* getError() const { return error.get(); }
     virtual bool isError() const { return !error || error->isError(); }
 
@@ -49,7 +50,7 @@ protected:
         return true;
     }
 
-    std::wstring className;
+    const wchar_t* className;
     std::unique_ptr<vxError> error;
 };
 

@@ -1,9 +1,11 @@
 #include "Utilities/Sources/vxDouble.h"
 
+#include <locale.h>
+#include <stdlib.h>
 #include <cmath>
 #include <limits>
-#include <locale>
-#include <sstream>
+
+#include <cwctype>
 
 #include "settings/vxErrorCodes.h"
 
@@ -75,10 +77,39 @@ short vxDouble::testNumber(const std::wstring& token) {
 }
 
 double vxDouble::toDouble(const std::wstring& token) {
-    std::wistringstream in(token);
-    in.imbue(std::locale::classic());
-    double v = 0.0;
-    in >> v;
+    // The longest prefix that reads as a number, as a stream reads it: blanks
+    // first, a sign, digits with one point, then an exponent after a digit.
+    // A prefix that doesn't convert whole (like "1e") reads as 0.
+    constexpr size_t kMaxChars = 400;
+    char chars[kMaxChars + 1];
+    size_t n = 0;
+    size_t i = 0;
+    while (i < token.size() && std::iswspace(static_cast<wint_t>(token[i]))) ++i;
+    if (i < token.size() && (token[i] == L'+' || token[i] == L'-')) chars[n++] = char(token[i++]);
+    bool mantissa = false, point = false, exponent = false;
+    for (; i < token.size() && n < kMaxChars; ++i) {
+        const wchar_t c = token[i];
+        if (c >= L'0' && c <= L'9') {
+            mantissa = mantissa || !exponent;
+        } else if (c == L'.' && !point && !exponent) {
+            point = true;
+        } else if ((c == L'e' || c == L'E') && mantissa && !exponent) {
+            exponent = true;
+            chars[n++] = 'e';
+            if (i + 1 < token.size() && (token[i + 1] == L'+' || token[i + 1] == L'-')) {
+                chars[n++] = char(token[++i]);
+            }
+            continue;
+        } else {
+            break;
+        }
+        chars[n++] = char(c);
+    }
+    chars[n] = '\0';
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", locale_t(0));
+    char* end = nullptr;
+    double v = strtod_l(chars, &end, cLocale);
+    if (n == 0 || end != chars + n) return 0.0;
     // Some libraries answer an overflow with an infinity, others with the
     // largest finite value; both come out as the latter.
     if (std::isinf(v)) v = std::copysign(std::numeric_limits<double>::max(), v);

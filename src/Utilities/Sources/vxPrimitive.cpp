@@ -4,7 +4,7 @@
 
 namespace Velarix {
 
-vxPrimitive::vxPrimitive(std::wstring name) : vxErrorHolder(std::move(name)) {}
+vxPrimitive::vxPrimitive(const wchar_t* name) : vxErrorHolder(name) {}
 
 vxPrimitive::~vxPrimitive() = default;
 

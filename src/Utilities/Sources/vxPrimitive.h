@@ -36,7 +36,7 @@ public:
     virtual std::size_t getSize() const { return 0; }
 
 protected:
-    explicit vxPrimitive(std::wstring name);
+    explicit vxPrimitive(const wchar_t* name);
 };
 
 }  // namespace Velarix

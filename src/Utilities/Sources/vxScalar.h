@@ -27,8 +27,8 @@ public:
     T value{};
 
 protected:
-    vxScalar(std::wstring name, const char* dumpLabel, T v)
-        : vxPrimitive(std::move(name)), value(std::move(v)), label(dumpLabel) {}
+    vxScalar(const wchar_t* name, const char* dumpLabel, T v)
+        : vxPrimitive(name), value(std::move(v)), label(dumpLabel) {}
 
 private:
     const char* label;

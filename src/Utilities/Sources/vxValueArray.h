@@ -57,8 +57,8 @@ public:
     std::vector<T> values;
 
 protected:
-    vxValueArray(std::wstring name, const char* dumpLabel, std::vector<T> v)
-        : vxPrimitive(std::move(name)), values(std::move(v)), label(dumpLabel) {}
+    vxValueArray(const wchar_t* name, const char* dumpLabel, std::vector<T> v)
+        : vxPrimitive(name), values(std::move(v)), label(dumpLabel) {}
 
 private:
     template <class Fn>

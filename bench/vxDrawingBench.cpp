@@ -1,0 +1,66 @@
+// A whole run of the command in-process: read a script of 1,000 mixed
+// primitives (rectangles, polygons, texts) on a 400 by 300 drawing, lay it
+// out and write it as SVG or as PNG.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+
+#include "velarix/vxCommand.h"
+
+namespace {
+
+std::string mixedScript(const char* saveCall) {
+    std::string s = "OpenDrawing(400; 300)\n";
+    for (int i = 0; i < 1000; ++i) {
+        const int x = (i * 37) % 360;
+        const int y = (i * 53) % 270;
+        const std::string xs = std::to_string(x), ys = std::to_string(y);
+        switch (i % 3) {
+            case 0:
+                s += "AddRect(" + xs + "; " + ys + "; 30; 20; " + std::to_string(i % 255) +
+                     " 120 200)\n";
+                break;
+            case 1:
+                s += "AddPolygon(xyxy; " + xs + " " + std::to_string(y + 30) + " " +
+                     std::to_string(x + 40) + " " + std::to_string(y + 25) + " " +
+                     std::to_string(x + 25) + " " + ys + "; seagreen)\n";
+                break;
+            default:
+                s += "AddText(" + xs + "; " + ys + "; \"Sales " + std::to_string(i) +
+                     "\"; \"Verdana\"; 9)\n";
+                break;
+        }
+    }
+    return s + saveCall + "\n";
+}
+
+void runScript(benchmark::State& state, const char* saveCall) {
+    const std::string script = mixedScript(saveCall);
+    const std::string folder = (std::filesystem::temp_directory_path() / "velarix-bench").string();
+    std::filesystem::create_directories(folder);
+    for (auto _ : state) {
+        std::istringstream in(script);
+        std::ostringstream out, err;
+        const int status = Velarix::vxVelarixMain({"--base", folder}, in, out, err);
+        if (status != 0) state.SkipWithError(err.str().c_str());
+    }
+}
+
+void BM_MixedPrimitivesToSVG(benchmark::State& state) {
+    runScript(state, "SaveAsSVGFile(\"mixed.svg\"; replace)");
+}
+void BM_MixedPrimitivesToPNG(benchmark::State& state) {
+    runScript(state, "SaveAsPNGFile(\"mixed.png\"; replace)");
+}
+// Reading the script and building the drawing, with nothing written.
+void BM_MixedPrimitivesNoOutput(benchmark::State& state) {
+    runScript(state, "");
+}
+
+}  // namespace
+
+BENCHMARK(BM_MixedPrimitivesNoOutput)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedPrimitivesToSVG)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedPrimitivesToPNG)->Unit(benchmark::kMillisecond);
