@@ -191,12 +191,15 @@ void vxDeviceGDIPlus::makePicture(bool onWhite) {
     vxCairoSurface image(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelWidth, pixelHeight));
     if (!reportCairoStatus(cairo_surface_status(image.get()), L"makePicture", 1)) return;
     vxCairoContext painter(cairo_create(image.get()));
+    cairo_set_source_surface(painter.get(), canvas.get(), 0.0, 0.0);
+    cairo_paint(painter.get());
+    // White goes in behind the picture, in place: a record played over
+    // white at once would be played into a copy of the whole picture first.
     if (onWhite) {
+        cairo_set_operator(painter.get(), CAIRO_OPERATOR_DEST_OVER);
         cairo_set_source_rgb(painter.get(), 1.0, 1.0, 1.0);
         cairo_paint(painter.get());
     }
-    cairo_set_source_surface(painter.get(), canvas.get(), 0.0, 0.0);
-    cairo_paint(painter.get());
     if (!reportCairoStatus(cairo_status(painter.get()), L"makePicture", 2)) return;
     painter.reset();
     cairo_surface_flush(image.get());
@@ -208,10 +211,23 @@ void vxDeviceGDIPlus::makePicture(bool onWhite) {
 // format (none set, or EMF, which needs a recorder of vector commands) is
 // passed over.
 void vxDeviceGDIPlus::writeTargets() {
-    for (const auto& target : targets) {
-        if (target->getType() == kTargetClipboard) continue;
-        if (!isPictureFormat(target->getFormat())) continue;
-        if (!writeTarget(*target)) return;
+    auto isWritten = [](const vxWriteExternal& target) {
+        return target.getType() != kTargetClipboard && isPictureFormat(target.getFormat());
+    };
+    for (size_t i = 0; i < targets.size(); ++i) {
+        if (!isWritten(*targets[i])) continue;
+        if (!writeTarget(*targets[i])) return;
+        // A large drawing is held in one picture at a time: a record lets
+        // go of the form no later target asks for, and plays it again
+        // should a caller want it after all.
+        if (isBitmapRoute) continue;
+        bool needsAlpha = false, needsWhite = false;
+        for (size_t k = i + 1; k < targets.size(); ++k) {
+            if (!isWritten(*targets[k])) continue;
+            (hasAlpha(targets[k]->getFormat()) ? needsAlpha : needsWhite) = true;
+        }
+        if (!needsAlpha) picture.reset();
+        if (!needsWhite) pictureOnWhite.reset();
     }
 }
 
