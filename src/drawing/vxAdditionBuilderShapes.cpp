@@ -21,8 +21,6 @@ namespace {
 // Arrow ends of AddArrow, combinable.
 constexpr short kArrowAtBegin = 1;
 constexpr short kArrowAtEnd = 2;
-// Point lists: 1 gives all x, then all y; any other code pairs them.
-constexpr short kXXYY = 1;
 
 template <class T>
 std::unique_ptr<T> make(vxUserSettings* settings) {
@@ -33,14 +31,17 @@ std::unique_ptr<T> make(vxUserSettings* settings) {
     }
 }
 
+// Point lists: layout 1 gives all x, then all y; any other code, or none,
+// pairs them.
 void splitPoints(short layout, const std::vector<float>& values, std::vector<float>& xs,
                  std::vector<float>& ys) {
+    const bool isSeparate = layout == vxPath2DOLD::kLayoutSeparate;
     const size_t n = values.size() / 2;
     xs.resize(n);
     ys.resize(n);
     for (size_t i = 0; i < n; ++i) {
-        xs[i] = layout == kXXYY ? values[i] : values[2 * i];
-        ys[i] = layout == kXXYY ? values[n + i] : values[2 * i + 1];
+        xs[i] = isSeparate ? values[i] : values[2 * i];
+        ys[i] = isSeparate ? values[n + i] : values[2 * i + 1];
     }
 }
 
@@ -77,7 +78,7 @@ std::unique_ptr<vxGObjectOLD> vxAdditionBuilder::buildPointList(vxAssign& a) {
         auto polygon = make<vxPolygon2D>(settings);
         if (!polygon) return checked(nullptr);
         std::vector<float> xs, ys;
-        splitPoints(a.getShort(0, kXXYY), a.getFloatArray(1), xs, ys);
+        splitPoints(a.getShort(0, vxPath2DOLD::kLayoutInterleaved), a.getFloatArray(1), xs, ys);
         a.addToArgumentOffset(2);
         polygon->set(xs, ys);
         polygon->setDoClose(filled);

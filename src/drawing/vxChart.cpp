@@ -60,7 +60,8 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (!create(layer, L"setUpAdditionLayers", kTypeChart, 0, layerMng->getCurrentClipRect())) {
         return;
     }
-    for (auto& addition : additions) layer->addShape(addition.get());
+    layer->addClipShape(getOwnerSettings());
+    for (auto& addition : additions) layer->addAddition(addition.get());
     if (layer->isError()) return copyError(layer->getError());
     layerMng->addLayer(std::move(layer));
     if (layerMng->isError()) copyError(layerMng->getError());

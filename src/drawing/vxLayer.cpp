@@ -1,5 +1,6 @@
 #include "drawing/vxLayer.h"
 
+#include "graphics/vxClip2D.h"
 #include "graphics/vxGObjectOLD.h"
 #include "host/vxLog.h"
 #include "output/vxDevice.h"
@@ -40,6 +41,20 @@ bool vxLayer::addShape(vxGObjectOLD* shape) {
         return false;
     }
     return true;
+}
+
+bool vxLayer::addClipShape(vxUserSettings* owner) {
+    std::unique_ptr<vxClip2D> shape;
+    if (!create(shape, L"addClipShape", owner)) return false;
+    shape->setRect(clipRect[0], clipRect[1], clipRect[2], clipRect[3]);
+    return addShape(std::move(shape));
+}
+
+bool vxLayer::addAddition(vxGObjectOLD* shape) {
+    if (auto* reset = dynamic_cast<vxClip2D*>(shape); reset && !reset->hasShape()) {
+        reset->setRect(clipRect[0], clipRect[1], clipRect[2], clipRect[3]);
+    }
+    return addShape(shape);
 }
 
 vxGObjectOLD* vxLayer::getShape(long index) const {

@@ -14,6 +14,7 @@ namespace Velarix {
 
 class vxDevice;
 class vxGObjectOLD;
+class vxUserSettings;
 
 class vxLayer : public vxErrorHolder {
 public:
@@ -24,6 +25,12 @@ public:
     bool addShape(std::unique_ptr<vxGObjectOLD> shape);
     // Draws an object that stays with its owner.
     bool addShape(vxGObjectOLD* shape);
+    // Begins the layer with a clip shape of its rectangle, so that what it
+    // draws is cut to it on every device.
+    bool addClipShape(vxUserSettings* owner);
+    // Draws a shape a script added; a reset of the clip goes back to the
+    // layer's rectangle.
+    bool addAddition(vxGObjectOLD* shape);
     long getNumOfShapes() const { return static_cast<long>(shapes.size()); }
     vxGObjectOLD* getShape(long index) const;
 

@@ -10,7 +10,6 @@
 #include "drawing/vxLayerManager.h"
 #include "drawing/vxTable.h"
 #include "furniture/vxBackground.h"
-#include "graphics/vxClip2D.h"
 #include "graphics/vxTransform2DOLD.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
@@ -262,6 +261,7 @@ void vxView::setUp(const float b[4]) {
         background->setUp(viewBounds);
         if (background->isError()) return copyError(background->getError());
     }
+    std::copy(b, b + 4, outerBounds);
     float inner[4];
     getInnerRect(b, inner);
     for (auto& object : objects) {
@@ -276,13 +276,11 @@ void vxView::setUp(const float b[4]) {
 
 std::unique_ptr<vxLayer> vxView::beginLayer(const float clip[4]) {
     std::unique_ptr<vxLayer> layer;
-    std::unique_ptr<vxClip2D> shape;
-    if (!create(layer, L"setUpLayers", kTypeView, 0, clip) ||
-        !create(shape, L"setUpLayers", getOwnerSettings())) {
+    if (!create(layer, L"setUpLayers", kTypeView, 0, clip)) return nullptr;
+    if (!layer->addClipShape(getOwnerSettings())) {
+        copyError(layer->getError());
         return nullptr;
     }
-    shape->setRect(clip[0], clip[1], clip[2], clip[3]);
-    layer->addShape(std::move(shape));
     return layer;
 }
 
@@ -300,7 +298,7 @@ void vxView::setUpLayers(vxLayerManager* layerMng) {
         if (background->isError()) return copyError(background->getError());
     }
     float clip[4];
-    getInnerRect(viewBounds, clip);
+    getInnerRect(outerBounds, clip);
     clip[0] -= 1.0f;
     clip[1] -= 1.0f;
     clip[2] += 1.0f;
@@ -324,11 +322,7 @@ void vxView::setUpLayers(vxLayerManager* layerMng) {
             }
         } else {
             if (!layer && !(layer = beginLayer(clip))) return;
-            // A reset of the clip goes back to the view's clip.
-            if (auto* reset = dynamic_cast<vxClip2D*>(object); reset && !reset->hasShape()) {
-                reset->setRect(clip[0], clip[1], clip[2], clip[3]);
-            }
-            layer->addShape(object);
+            layer->addAddition(object);
             if (layer->isError()) return copyError(layer->getError());
         }
         if (object->isError()) return copyError(object->getError());

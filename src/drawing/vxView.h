@@ -90,6 +90,9 @@ private:
     long tableIndex = -1;
     long calendarIndex = -1;
     float viewBounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
+    // The rectangle the view was set up in, that of its parent's inside;
+    // until then unlimited.
+    float outerBounds[4] = {-3.0e38f, -3.0e38f, 3.0e38f, 3.0e38f};
     std::vector<std::unique_ptr<vxGObjectOLD>> objects;
     std::unique_ptr<vxBackground> background;
     vxView* parent;  // not owned; null for the root

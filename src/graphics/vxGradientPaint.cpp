@@ -15,6 +15,13 @@ namespace {
 constexpr float kOffsetTolerance = 0.0001f;
 constexpr long kNumbersPerStop = 5;
 
+// The spread code of a script number; one far outside the codes must not
+// wrap round into one of them.
+short spreadCode(float number) {
+    if (!(number > 0.0f && number < 100.0f)) return 0;
+    return static_cast<short>(std::lround(number));
+}
+
 }  // namespace
 
 vxGradientPaint::vxGradientPaint(const wchar_t* name) : vxPaintOLD(name) {}
@@ -130,7 +137,7 @@ bool vxGradientPaint::assign(vxAssign& assign, const vxUserSettings*) {
     const long leading = getNumOfLeadingNumbers();
     if (count >= leading && (count - leading) % kNumbersPerStop == 0) {
         setGeometry(numbers.data());
-        setSpread(static_cast<short>(std::lround(numbers[leading - 1])));
+        setSpread(spreadCode(numbers[leading - 1]));
         assignStops(numbers);
     }
     skipArguments(assign);

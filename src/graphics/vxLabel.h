@@ -7,10 +7,10 @@
 //   width  = left + right + border width + text width
 //   height = top + bottom + border width + text height
 // where the text's extent is that of its bounds (the turned box for a
-// turned text) and the border width counts only when the background shows
-// a border. The text keeps its place in the box: the box reaches the left
-// and top margins (and half the border) beyond the text's bounds, so that
-// it is centred on the text when the margins on opposite sides are equal.
+// turned text) and the border width is that of the background's border
+// stroke, whether or not the border shows (0 without a background). The
+// box is centred on the text's bounds, so unequal margins on opposite
+// sides share their sum evenly.
 //
 // The background is one of seven shapes built on a frame of 100 by 100 and
 // scaled from that frame onto the box; setUpBackground rebuilds it for the
@@ -145,7 +145,8 @@ public:
 
     // The margins in points, rounded.
     void getMarginsDC(float margins[4]) const;
-    // The width of the background's border, 0 when it shows none.
+    // The width of the background's border stroke, shown or not; 0 without
+    // a background.
     float getBorderWidth() const;
     // The extent of the box, width and height.
     void getLabelSize(float size[2]) const;

@@ -47,8 +47,10 @@ void vxLabel::getMarginsDC(float m[4]) const {
 }
 
 float vxLabel::getBorderWidth() const {
-    if (!background || !background->hasBorder()) return 0.0f;
-    // A background without a stroke of its own draws with the default one.
+    if (!background) return 0.0f;
+    // The border's width counts whether or not its paint shows, so that a
+    // label keeps its size when only the border's colour changes. A
+    // background without a stroke of its own draws with the default one.
     const vxStrokeOLD* stroke = background->getBorderStroke();
     return stroke ? stroke->getLineWidth() : 1.0f;
 }
@@ -58,11 +60,14 @@ void vxLabel::getLabelBounds(float b[4]) const {
     if (text) text->getBounds(t);
     float m[4];
     getMarginsDC(m);
-    const float halfBorder = getBorderWidth() / 2.0f;
-    b[0] = t[0] - m[0] - halfBorder;
-    b[1] = t[1] - m[1] - halfBorder;
-    b[2] = t[2] + m[2] + halfBorder;
-    b[3] = t[3] + m[3] + halfBorder;
+    const float border = getBorderWidth();
+    const float halfWidth = (m[0] + m[2] + border + t[2] - t[0]) / 2.0f;
+    const float halfHeight = (m[1] + m[3] + border + t[3] - t[1]) / 2.0f;
+    const float cx = (t[0] + t[2]) / 2.0f, cy = (t[1] + t[3]) / 2.0f;
+    b[0] = cx - halfWidth;
+    b[1] = cy - halfHeight;
+    b[2] = cx + halfWidth;
+    b[3] = cy + halfHeight;
 }
 
 void vxLabel::getLabelSize(float size[2]) const {

@@ -103,8 +103,9 @@ public:
     // Steps between the points: along the orientation to the step position
     // (a fraction of the gap), then across to the next point. The outdents
     // reach past the first and last point by that fraction of the first and
-    // last gap, never beyond the first and last step; with one point they
-    // are distances.
+    // last gap, never beyond the first and last step. A lone point gets a
+    // horizontal line, whatever the orientation, from x - startOutdent to
+    // x + endOutdent (the outdents as distances, each at least 0).
     void addStepPolygon(const std::vector<float>& xs, const std::vector<float>& ys,
                         short orientation, float startOutdent, float endOutdent,
                         float stepPosition);
@@ -116,6 +117,8 @@ public:
     // (1 - shiftFactor) * lengthFactor of the gap to the previous point and
     // forward by shiftFactor * lengthFactor of the gap to the next; the outer
     // ends of the first and last piece follow the outdents as with steps.
+    // Each piece, one of no length too, starts with a move; a lone point is
+    // drawn as with steps.
     void addJumpPolygon(const std::vector<float>& xs, const std::vector<float>& ys,
                         short orientation, float startOutdent, float endOutdent, float shiftFactor,
                         float lengthFactor);
@@ -237,8 +240,9 @@ private:
     // A line to where the path already is adds nothing.
     void lineToIfMoved(float px, float py);
     void orientedLine(short orientation, float u, float v);
-    // The lone point of a step or jump line, with outdents as distances.
-    void addLonePoint(float u, float v, short orientation, float startOutdent, float endOutdent);
+    // The lone point of a step or jump line: a flat line through it, with
+    // the outdents as distances; nothing when both are none.
+    void addLonePoint(float px, float py, float startOutdent, float endOutdent);
     // n, start angle in degrees, cx, cy, rx and optionally ry, inner ratio
     // and inner offset.
     void assignMultigon(const std::vector<float>& numbers);

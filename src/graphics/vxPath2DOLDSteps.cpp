@@ -2,7 +2,6 @@
 // between them. Along the orientation a coordinate is called u, across it v:
 // orientation 1 has u = x, orientation 2 has u = y.
 #include <algorithm>
-#include <cmath>
 
 #include "graphics/vxAllocationGuard.h"
 #include "graphics/vxLineShape.h"
@@ -52,11 +51,11 @@ void vxPath2DOLD::orientedLine(short orientation, float u, float v) {
     orientation == kVertical ? lineToIfMoved(v, u) : lineToIfMoved(u, v);
 }
 
-void vxPath2DOLD::addLonePoint(float u, float v, short orientation, float startOutdent,
-                               float endOutdent) {
+// A lone point draws flat through the point whatever the orientation.
+void vxPath2DOLD::addLonePoint(float px, float py, float startOutdent, float endOutdent) {
     if (startOutdent <= kNoLength && endOutdent <= kNoLength) return;
-    orientedMove(orientation, u - std::max(0.0f, startOutdent), v);
-    orientedLine(orientation, u + std::max(0.0f, endOutdent), v);
+    moveTo(px - std::max(0.0f, startOutdent), py);
+    lineTo(px + std::max(0.0f, endOutdent), py);
 }
 
 // ---- steps -------------------------------------------------------------------
@@ -83,7 +82,7 @@ void vxPath2DOLD::buildSteps(const std::vector<float>& xs, const std::vector<flo
     if (end - start < 1) return;
     const OrientedRange r(xs, ys, start, end, orientation);
     if (r.n == 1) {
-        addLonePoint(r.u[0], r.v[0], orientation, startOutdent, endOutdent);
+        addLonePoint(xs[start], ys[start], startOutdent, endOutdent);
         return;
     }
     auto stepAt = [&](long i) { return r.u[i] + (r.u[i + 1] - r.u[i]) * stepPosition; };
@@ -123,7 +122,7 @@ void vxPath2DOLD::buildJumps(const std::vector<float>& xs, const std::vector<flo
     if (end - start < 1) return;
     const OrientedRange r(xs, ys, start, end, orientation);
     if (r.n == 1) {
-        addLonePoint(r.u[0], r.v[0], orientation, startOutdent, endOutdent);
+        addLonePoint(xs[start], ys[start], startOutdent, endOutdent);
         return;
     }
     const float back = (1.0f - shiftFactor) * lengthFactor;
@@ -134,9 +133,9 @@ void vxPath2DOLD::buildJumps(const std::vector<float>& xs, const std::vector<flo
         float to = i + 1 < r.n ? r.u[i] + (r.u[i + 1] - r.u[i]) * ahead : 0.0f;
         if (i == 0) from = r.outdentedStart(startOutdent, to);
         if (i + 1 == r.n) to = r.outdentedEnd(endOutdent, from);
-        if (std::fabs(to - from) < kNoLength) continue;
+        // Every point has its piece, one of no length included.
         orientedMove(orientation, from, r.v[i]);
-        orientedLine(orientation, to, r.v[i]);
+        orientation == kVertical ? lineTo(r.v[i], to) : lineTo(to, r.v[i]);
     }
 }
 

@@ -159,7 +159,8 @@ private:
     void setUpStringDimension() const;
     void setUpBounds() const;
     void assignFont(const vxAssign& assign);
-    void assignColor(const vxAssign& assign, const vxUserSettings* settings);
+    void assignColor(vxAssign& assign, const vxUserSettings* settings);
+    void assignGradient(vxAssign& assign, const vxUserSettings* settings, short kind);
 
     std::wstring inputString;
     mutable std::wstring outputString;

@@ -4,6 +4,7 @@
 #include "graphics/vxBasicPaint.h"
 #include "graphics/vxColorOLD.h"
 #include "graphics/vxFontOLD.h"
+#include "graphics/vxPaintOLD.h"
 #include "graphics/vxText.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
@@ -54,8 +55,14 @@ void vxText::assignFont(const vxAssign& assign) {
     setFontStyle(assign.isVoid(2) ? font->getDefaultStyle() : assign.getShort(2));
 }
 
-// The colour alone makes the paint: a text has no fill pattern.
-void vxText::assignColor(const vxAssign& assign, const vxUserSettings* settings) {
+// The colour alone makes the paint: a text has no fill pattern. A gradient
+// list makes a gradient paint.
+void vxText::assignColor(vxAssign& assign, const vxUserSettings* settings) {
+    const short kind = vxPaintOLD::getKindOfArgument(assign, 0);
+    if (kind == vxPaintOLD::kLinearGradient || kind == vxPaintOLD::kRadialGradient) {
+        assignGradient(assign, settings, kind);
+        return;
+    }
     vxColorOLD color;
     if (!vxBasicPaint::readColor(assign, 0, settings, color)) return;
     try {
@@ -63,6 +70,20 @@ void vxText::assignColor(const vxAssign& assign, const vxUserSettings* settings)
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"createPaint"));
     }
+}
+
+// The paint reads its own arguments; the caller moves past the colour.
+void vxText::assignGradient(vxAssign& assign, const vxUserSettings* settings, short kind) {
+    std::unique_ptr<vxPaintOLD> gradient;
+    if (!vxPaintOLD::createInto(gradient, kind, *this, L"createPaint")) return;
+    const long offset = assign.getArgumentOffset();
+    gradient->assign(assign, settings);
+    assign.addToArgumentOffset(offset - assign.getArgumentOffset());
+    if (gradient->isError()) {
+        copyError(gradient->getError());
+        return;
+    }
+    paint = std::move(gradient);
 }
 
 }  // namespace Velarix

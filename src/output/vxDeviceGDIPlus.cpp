@@ -26,11 +26,6 @@ bool isPictureFormat(short format) {
     return false;
 }
 
-// GIF, JPEG and BMP keep no alpha: their picture is laid on white.
-bool hasAlpha(short format) {
-    return vxFormatHasAlpha(static_cast<vxImageFormat>(format));
-}
-
 // A size in whole pixels; the largest picture that cairo makes is 32767
 // pixels wide and high, beyond which the canvas reports a fault.
 int pixelsOf(float length) {
@@ -80,6 +75,7 @@ void vxDeviceGDIPlus::setUp(const vxDrawingSpecs& specs) {
     if (!rendering) return;
     setAntialiasing(rendering->getShapeAntialiasing() != 0 ? 1 : 0);
     textAntialiasing = rendering->getTextAntialiasing() != 0 ? 1 : 0;
+    setUseFractionalMetrics(rendering->getFractionalMetrics() != 0);
 }
 
 bool vxDeviceGDIPlus::isTextAntialiased() const {
@@ -103,6 +99,8 @@ void vxDeviceGDIPlus::discard() {
     clipMask.reset();
     clipPaths.clear();
     isClosed = false;
+    pictures.clear();
+    texture.reset();
     forgetContextState();
 }
 
@@ -134,7 +132,8 @@ void vxDeviceGDIPlus::setUpContext() {
                         getAntialiasing() != 0 ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
     cairo_font_options_t* options = cairo_font_options_create();
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+    cairo_font_options_set_hint_metrics(
+        options, getUseFractionalMetrics() ? CAIRO_HINT_METRICS_OFF : CAIRO_HINT_METRICS_ON);
     cairo_font_options_set_antialias(
         options, isTextAntialiased() ? CAIRO_ANTIALIAS_GRAY : CAIRO_ANTIALIAS_NONE);
     cairo_set_font_options(cr.get(), options);
@@ -167,8 +166,7 @@ void vxDeviceGDIPlus::close() {
     clipMask.reset();
     clipPaths.clear();
     if (!drawn) return;
-    // The pictures are made as the targets ask for them: a large drawing
-    // written only as JPEG never needs the one with alpha.
+    // A record is played into its picture when the first target asks.
     isClosed = true;
     writeTargets();
 }
@@ -214,51 +212,53 @@ void vxDeviceGDIPlus::writeTargets() {
     auto isWritten = [](const vxWriteExternal& target) {
         return target.getType() != kTargetClipboard && isPictureFormat(target.getFormat());
     };
-    for (size_t i = 0; i < targets.size(); ++i) {
-        if (!isWritten(*targets[i])) continue;
-        if (!writeTarget(*targets[i])) return;
-        // A large drawing is held in one picture at a time: a record lets
-        // go of the form no later target asks for, and plays it again
-        // should a caller want it after all.
-        if (isBitmapRoute) continue;
-        bool needsAlpha = false, needsWhite = false;
-        for (size_t k = i + 1; k < targets.size(); ++k) {
-            if (!isWritten(*targets[k])) continue;
-            (hasAlpha(targets[k]->getFormat()) ? needsAlpha : needsWhite) = true;
-        }
-        if (!needsAlpha) picture.reset();
-        if (!needsWhite) pictureOnWhite.reset();
+    for (const auto& target : targets) {
+        if (isWritten(*target) && !writeTarget(*target)) return;
     }
 }
 
+// A stream target gets the bytes of the picture at once; a file is opened
+// at the first byte and written piece by piece as the encoder makes them.
 bool vxDeviceGDIPlus::writeTarget(vxWriteExternal& target) {
     auto failed = [&] {
         if (!target.isError()) return false;
         copyError(target.getError());
         return true;
     };
-    std::vector<unsigned char> bytes;
-    if (!encode(target, bytes)) return false;
     if (target.getType() == kTargetStream) {
+        std::vector<unsigned char> bytes;
+        if (!encode(target, [&](const unsigned char* data, size_t length) {
+                bytes.insert(bytes.end(), data, data + length);
+                return true;
+            }))
+            return false;
         if (auto* stream = dynamic_cast<vxWriteStream*>(&target)) {
             stream->setSize(getWidth(), getHeight());
         }
         target.storeData(bytes);
         return !failed();
     }
-    target.open();
-    if (failed()) return false;
-    target.writeBytes(bytes.data(), bytes.size());
-    if (failed()) return false;
-    target.close();
-    return !failed();
+    bool isOpen = false;
+    const bool written = encode(target, [&](const unsigned char* data, size_t length) {
+        if (!isOpen) {
+            target.open();
+            isOpen = true;
+        }
+        if (!target.isError()) target.writeBytes(data, length);
+        return !target.isError();
+    });
+    if (isOpen && !target.isError()) target.close();
+    return !failed() && written;
 }
 
 // The target's resolution and, for JPEG, its quality go to the encoder
-// where they are set; else the encoder's defaults hold.
-bool vxDeviceGDIPlus::encode(const vxWriteExternal& target, std::vector<unsigned char>& bytes) {
+// where they are set; else the encoder's defaults hold. Every format is
+// encoded from the one picture with alpha: the encoders of the formats
+// without alpha lay it on white row by row, so that a large drawing is
+// held in memory once. A fault of the target is the target's to report.
+bool vxDeviceGDIPlus::encode(const vxWriteExternal& target, const vxByteSink& write) {
     const short format = target.getFormat();
-    cairo_surface_t* image = getPicture(!hasAlpha(format));
+    cairo_surface_t* image = getPicture(false);
     if (!image) return false;
     if (pixelWidth == 0 || pixelHeight == 0) {
         fail(vxErrChart::kImageDimension, L"encode", 1);
@@ -276,10 +276,11 @@ bool vxDeviceGDIPlus::encode(const vxWriteExternal& target, std::vector<unsigned
         options.quality = target.getCompressionQuality();
     }
     std::string status;
-    if (vxEncodeImage(static_cast<vxImageFormat>(format), pixels, options, bytes, status)) {
+    if (vxEncodeImageTo(static_cast<vxImageFormat>(format), pixels, options, write, status)) {
         return true;
     }
-    fail(vxErrFile::kWrite, L"encode", 2, std::wstring(status.begin(), status.end()));
+    if (!target.isError())
+        fail(vxErrFile::kWrite, L"encode", 2, std::wstring(status.begin(), status.end()));
     return false;
 }
 

@@ -4,27 +4,31 @@
 //
 // Two routes, chosen by the drawing's bitmap flag when the device opens:
 //   - bitmap: the shapes go straight into an ARGB32 picture cleared to
-//     transparent white. Coordinates are rounded to whole pixels, and a
-//     rectangle clip narrower or lower than one pixel is passed over;
+//     transparent white. Coordinates are rounded to whole pixels, which a
+//     stroke of an odd width takes as pixel centres so that a thin line
+//     covers whole pixels; a rectangle clip narrower or lower than one
+//     pixel is passed over;
 //   - recorded (the default): the shapes are recorded at their exact
 //     coordinates, and close plays the record into a picture cleared with
-//     transparent white, or with opaque white for the formats that have no
-//     alpha (GIF, JPEG, BMP).
-// Either way a format without alpha gets the picture laid on opaque white.
+//     transparent white.
+// Either way a format without alpha (GIF, JPEG, BMP) gets the picture laid
+// on opaque white by its encoder, row by row.
 //
 // Shapes and text are antialiased unless `antialiasing` is 0; setUp takes
 // it from the user's rendering settings, where text has a flag of its own.
 //
 // Paints: a colour; a hatch of 8 by 8 pixels repeated from the drawing's
 // origin; gradients laid over the bounds of the shape, their stops with
-// alpha. Pictures are not drawn yet: a texture paint draws nothing, and a
-// colour with a texture number draws its colour. Dashes are multiples of
-// the line width. A combined stroke draws its strokes one over the other;
-// a wave is drawn as a plain line.
+// alpha; a texture number's built-in picture repeated from the origin; a
+// texture paint's picture repeated from where its mapping lays it. Dashes
+// keep the lengths of their pattern on lines of any width. A combined
+// stroke draws its strokes one over the other; a wave is drawn as a plain
+// line.
 //
 // Text is drawn with the very font face that measured it, each glyph at
 // the position that the summed advances of the measure give, so that a
-// line is as wide as the layout made room for. Lines stand as on SVG: the
+// line is as wide as the layout made room for; without fractional metrics
+// each advance is fitted to whole pixels. Lines stand as on SVG: the
 // first baseline at the top of the bounds plus the line height minus the
 // descent.
 //
@@ -40,8 +44,10 @@
 #include <vector>
 
 #include "output/vxCairoFontFaces.h"
+#include "output/vxCairoPictures.h"
 #include "output/vxCairoPointers.h"
 #include "output/vxDevice.h"
+#include "platform/vxImageEncoder.h"
 
 namespace Velarix {
 
@@ -61,8 +67,8 @@ public:
     void addTarget(short targetType) override;
     long getNumOfTargets() const override;
     vxWriteExternal* getLastTarget() const override;
-    // The size and bitmap flag, then the antialiasing of the user's
-    // rendering settings.
+    // The size and bitmap flag, then the antialiasing and the fractional
+    // metrics of the user's rendering settings.
     void setUp(const vxDrawingSpecs& specs) override;
     void open() override;
     void close() override;
@@ -112,7 +118,8 @@ public:
     void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
                     short symbolType, float size, float x, float y) override;
 
-    // Pictures are not drawn yet.
+    // The picture placed by the image's mapping, tile by tile, through the
+    // clip; an empty image draws nothing.
     void drawImage(const vxImage& image) override;
     // A grey frame through the four corners when there are more than three
     // knobs, and a black square of 5 by 5 pixels at each knob.
@@ -158,7 +165,7 @@ private:
     void writeTargets();
     bool writeTarget(vxWriteExternal& target);
     // The picture in the target's format; false after reporting a fault.
-    bool encode(const vxWriteExternal& target, std::vector<unsigned char>& bytes);
+    bool encode(const vxWriteExternal& target, const vxByteSink& write);
     // Drops the picture and the drawing state of an earlier run.
     void discard();
     // The one funnel of the device's faults; the first fault stays.
@@ -182,7 +189,6 @@ private:
     bool setUpRadialGradientBrush(const vxGradientPaint& paint, const float bounds[4]);
     bool setUpGradientBrush(cairo_pattern_t* pattern, const vxGradientPaint& paint,
                             const float bounds[4], const wchar_t* method);
-    bool setUpTextureBrush(const vxPaintOLD& paint);
     // The context's state was changed behind the caches' backs.
     void forgetContextState();
 
@@ -218,10 +224,18 @@ private:
 
     // Text (vxDeviceGDIPlusText.cpp).
     bool setUpFont(const vxFontOLD& font, vxCairoFontFaces::Entry& entry);
+    void setUpFontMetrics();
     double lineWidth(vxFontFace& face, const std::wstring& line, float size) const;
     void showLine(vxFontFace& face, const std::wstring& line, double x, double baseline,
                   float size);
     void underline(vxFontFace& face, double x, double baseline, double width, float size);
+
+    // Pictures (vxDeviceGDIPlusImages.cpp). fillTiles fills the rectangle
+    // x, y, w, h with the current source, through the clip.
+    void fillTiles(double left, double top, double width, double height);
+    vxCairoSurface gradientTile(const vxGradientPaint& gradient, long width, long height);
+    bool setUpTextureIndexBrush(const vxBasicPaint& paint);
+    bool setUpTextureBrush(const vxPaintOLD& paint, const float bounds[4]);
 
     // Symbols (vxDeviceGDIPlusSymbols.cpp): a fill paint of null or none
     // skips the fill.
@@ -262,6 +276,11 @@ private:
     cairo_font_face_t* currentFontFace = nullptr;
     double currentFontSize = 0.0;
     vxCairoFontFaces fontFaces;
+    // The pictures read in this run, and the brush of the last texture
+    // number.
+    vxCairoPictures pictures;
+    vxCairoPattern texture;
+    short textureIndex = 0;
     std::vector<cairo_glyph_t> glyphs;  // the glyphs of a line, reused
 };
 

@@ -72,6 +72,34 @@ void boxSide(float low, float high, double& origin, double& length) {
     if (!(length > 1e-6 && length < 1e7)) length = 1.0;
 }
 
+// A gamma-corrected gradient blends its colours in linear light: between
+// two stops the colour channels are mixed raised to the power 2.2 and the
+// mix taken back, which cairo is given as this many stops in between.
+constexpr int kGammaSteps = 8;
+constexpr double kGamma = 2.2;
+
+void addStop(cairo_pattern_t* pattern, double offset, const vxColorOLD& color) {
+    cairo_pattern_add_color_stop_rgba(pattern, offset, color.getRedF(), color.getGreenF(),
+                                      color.getBlueF(), color.getAlphaF());
+}
+
+// The stops between two stops; alpha is mixed as it stands.
+void addGammaStops(cairo_pattern_t* pattern, double from, const vxColorOLD& one, double to,
+                   const vxColorOLD& other) {
+    const double a[4] = {one.getRedF(), one.getGreenF(), one.getBlueF(), one.getAlphaF()};
+    const double b[4] = {other.getRedF(), other.getGreenF(), other.getBlueF(), other.getAlphaF()};
+    for (int step = 1; step <= kGammaSteps; ++step) {
+        const double t = static_cast<double>(step) / (kGammaSteps + 1);
+        double mix[3];
+        for (int i = 0; i < 3; ++i) {
+            const double linear = (1.0 - t) * std::pow(a[i], kGamma) + t * std::pow(b[i], kGamma);
+            mix[i] = std::pow(linear, 1.0 / kGamma);
+        }
+        cairo_pattern_add_color_stop_rgba(pattern, from + t * (to - from), mix[0], mix[1], mix[2],
+                                          (1.0 - t) * a[3] + t * b[3]);
+    }
+}
+
 // A premultiplied ARGB32 pixel.
 uint32_t pixelOf(int red, int green, int blue, int alpha) {
     auto times = [alpha](int c) { return static_cast<uint32_t>((c * alpha + 127) / 255); };
@@ -88,8 +116,8 @@ void vxDeviceGDIPlus::forgetContextState() {
 }
 
 // Width, caps, joins and miter limit of the stroke. A dashed line has the
-// dash's cap at the ends of every dash; its lengths and offset are
-// multiples of the line width.
+// dash's cap at the ends of every dash; its lengths and offset are the
+// pattern's own, whatever the line's width, as the other devices draw them.
 void vxDeviceGDIPlus::setUpPen(const vxStrokeOLD& stroke) {
     cairo_t* c = cr.get();
     const double width = stroke.getLineWidth();
@@ -111,8 +139,8 @@ void vxDeviceGDIPlus::setUpPen(const vxStrokeOLD& stroke) {
     // A pattern of nothing but zeros has nothing to draw: cairo refuses it,
     // and the line is drawn solid.
     if (dash && dash->getPatternLength() > 0.0f) {
-        for (float length : dash->getPattern()) dashes.push_back(length * width);
-        offset = dash->getOffset() * width;
+        for (float length : dash->getPattern()) dashes.push_back(length);
+        offset = dash->getOffset();
     }
     if (!isKnown || dashes != pen.dashes || offset != pen.dashOffset) {
         cairo_set_dash(c, dashes.data(), static_cast<int>(dashes.size()), offset);
@@ -122,13 +150,14 @@ void vxDeviceGDIPlus::setUpPen(const vxStrokeOLD& stroke) {
     pen.isKnown = true;
 }
 
-// A hatch draws in a text as its plain colour: a pattern in glyphs can't
-// be read. Texture numbers draw their colour until pictures are read.
+// A hatch or a texture number draws in a text as its plain colour: a
+// pattern in glyphs can't be read.
 bool vxDeviceGDIPlus::setUpBrush(const vxPaintOLD& paint, const float bounds[4], bool isText) {
     switch (paint.getType()) {
         case vxPaintOLD::kBasic: {
             const auto& basic = static_cast<const vxBasicPaint&>(paint);
             if (basic.hasHatch() && !isText) return setUpHatchBrush(basic);
+            if (basic.hasTexture() && !isText) return setUpTextureIndexBrush(basic);
             if (!basic.getColor()) return false;
             setUpSolidBrush(*basic.getColor());
             return true;
@@ -138,7 +167,7 @@ bool vxDeviceGDIPlus::setUpBrush(const vxPaintOLD& paint, const float bounds[4],
         case vxPaintOLD::kRadialGradient:
             return setUpRadialGradientBrush(static_cast<const vxGradientPaint&>(paint), bounds);
         default:
-            return setUpTextureBrush(paint);
+            return setUpTextureBrush(paint, bounds);
     }
 }
 
@@ -213,16 +242,19 @@ bool vxDeviceGDIPlus::setUpRadialGradientBrush(const vxGradientPaint& paint,
     return setUpGradientBrush(pattern.get(), paint, bounds, L"setUpRadialGradientBrush");
 }
 
-// The stops with their alpha, the spread, and the unit box laid over the
-// bounds of the shape.
+// The stops with their alpha, blended in linear light when the paint asks
+// for gamma correction; the spread, and the unit box laid over the bounds
+// of the shape.
 bool vxDeviceGDIPlus::setUpGradientBrush(cairo_pattern_t* pattern, const vxGradientPaint& paint,
                                          const float bounds[4], const wchar_t* method) {
     if (!reportCairoStatus(cairo_pattern_status(pattern), method, 1)) return false;
     for (long i = 0; i < paint.getNumOfColors(); ++i) {
-        const vxColorOLD* color = paint.getColor(i);
-        cairo_pattern_add_color_stop_rgba(pattern, paint.getOffset(i), color->getRedF(),
-                                          color->getGreenF(), color->getBlueF(),
-                                          color->getAlphaF());
+        const double offset = paint.getOffset(i);
+        if (i > 0 && paint.getUseGammaCorrection() && offset > paint.getOffset(i - 1)) {
+            addGammaStops(pattern, paint.getOffset(i - 1), *paint.getColor(i - 1), offset,
+                          *paint.getColor(i));
+        }
+        addStop(pattern, offset, *paint.getColor(i));
     }
     cairo_pattern_set_extend(pattern, extendOf(paint.getSpread()));
     double left, top, width, height;
@@ -236,12 +268,6 @@ bool vxDeviceGDIPlus::setUpGradientBrush(cairo_pattern_t* pattern, const vxGradi
     cairo_set_source(cr.get(), pattern);
     hasSolidSource = false;
     return true;
-}
-
-// Texture paints need pictures, which this device doesn't read yet: they
-// draw nothing.
-bool vxDeviceGDIPlus::setUpTextureBrush(const vxPaintOLD& paint) {
-    return false;
 }
 
 }  // namespace Velarix

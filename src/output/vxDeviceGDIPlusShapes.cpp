@@ -3,6 +3,7 @@
 // with the shadow's paint.
 #include <algorithm>
 #include <cfloat>
+#include <cmath>
 
 #include "graphics/vxCombinedStroke.h"
 #include "graphics/vxPaintOLD.h"
@@ -50,6 +51,31 @@ void boundsOf(const std::vector<float>& x, const std::vector<float>& y, float dx
         bounds[2] = std::max(bounds[2], x[i] + dx);
         bounds[3] = std::max(bounds[3], y[i] + dy);
     }
+}
+
+// On a bitmap the whole numbers that the coordinates are rounded to stand
+// for the centres of pixels, as the integer forms of drawing take them: a
+// stroke of an odd number of pixels moves by half a pixel, so that it
+// covers whole rows or columns instead of blurring over two.
+double pixelCentreShift(bool isBitmapRoute, double width) {
+    if (!isBitmapRoute) return 0.0;
+    return std::max(1L, std::lround(width)) % 2 == 1 ? 0.5 : 0.0;
+}
+
+// Strokes the current path moved by `shift` in x and y, and leaves the
+// path as it was for the next stroke.
+void strokeMoved(cairo_t* c, double shift) {
+    if (shift == 0.0) {
+        cairo_stroke_preserve(c);
+        return;
+    }
+    vxCairoPath path(cairo_copy_path(c));
+    cairo_new_path(c);
+    cairo_translate(c, shift, shift);
+    cairo_append_path(c, path.get());
+    cairo_translate(c, -shift, -shift);
+    cairo_stroke(c);
+    cairo_append_path(c, path.get());
 }
 
 }  // namespace
@@ -141,11 +167,11 @@ void vxDeviceGDIPlus::strokeShape(const vxStrokeOLD& stroke, const vxPaintOLD& p
             const vxBasicStroke* part = combined->getStroke(i);
             if (!part || part->isZeroWidth()) continue;
             setUpPen(*part);
-            cairo_stroke_preserve(c);
+            strokeMoved(c, pixelCentreShift(isBitmapRoute, part->getLineWidth()));
         }
     } else {
         setUpPen(stroke);
-        cairo_stroke_preserve(c);
+        strokeMoved(c, pixelCentreShift(isBitmapRoute, stroke.getLineWidth()));
     }
     cairo_new_path(c);
     endShape();
@@ -180,8 +206,9 @@ void vxDeviceGDIPlus::strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& pa
     checkStatus(L"drawLine2D");
 }
 
-// All pairs in one path, stroked at once; a pair whose ends meet draws
-// nothing, as a single line would.
+// All pairs in one path, stroked at once. The rule that a line whose ends
+// meet draws nothing holds for a single line only: here such a pair leaves
+// the dot of its caps, square or round (a flat cap leaves nothing).
 void vxDeviceGDIPlus::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                                   const Points& x, const Points& y, Offset offset) {
     if (!isDrawing() || drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) < 2) {
@@ -189,11 +216,19 @@ void vxDeviceGDIPlus::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& p
     }
     cairo_t* c = cr.get();
     cairo_new_path(c);
+    // cairo leaves out the square caps of a line without length: such a
+    // pair is drawn a 256th of a pixel long, the least length cairo keeps.
+    const bool isSquareCapped =
+        !stroke.hasDashStyle() && stroke.getLineCap() == vxStrokeOLD::kSquareCap;
     const size_t count = numOfPoints(x, y);
     for (size_t i = 0; i + 1 < count; i += 2) {
-        if (isDegenerateLine(x[i], y[i], x[i + 1], y[i + 1])) continue;
-        cairo_move_to(c, at(x[i] + offset.dx), at(y[i] + offset.dy));
-        cairo_line_to(c, at(x[i + 1] + offset.dx), at(y[i + 1] + offset.dy));
+        const double x1 = at(x[i] + offset.dx), y1 = at(y[i] + offset.dy);
+        double x2 = at(x[i + 1] + offset.dx);
+        const double y2 = at(y[i + 1] + offset.dy);
+        if (isSquareCapped && std::fabs(x2 - x1) < 0.001 && std::fabs(y2 - y1) < 0.001)
+            x2 = x1 + 1.0 / 256.0;
+        cairo_move_to(c, x1, y1);
+        cairo_line_to(c, x2, y2);
     }
     float bounds[4];
     boundsOf(x, y, offset.dx, offset.dy, bounds);
@@ -313,8 +348,5 @@ void vxDeviceGDIPlus::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, 
                                  const vxPoints& y, const float bounds[4], short windingRule) {
     fillPath(paint, verbs, x, y, bounds, windingRule, Offset{});
 }
-
-// Pictures come with the image classes; until then nothing is drawn.
-void vxDeviceGDIPlus::drawImage(const vxImage& image) {}
 
 }  // namespace Velarix

@@ -61,6 +61,13 @@ unsigned long glyphIndexOf(FT_Face face, char32_t c) {
     return index;
 }
 
+// The advance of a glyph at the size: fitted to whole pixels, as glyph
+// metrics are unless they are fractional.
+double advanceAt(int advance, double scale, bool isFractional) {
+    const double pixels = advance * scale;
+    return isFractional ? pixels : std::round(pixels);
+}
+
 }  // namespace
 
 // Lines as on SVG: the x of the alignment, the first baseline at the top
@@ -119,28 +126,47 @@ bool vxDeviceGDIPlus::setUpFont(const vxFontOLD& font, vxCairoFontFaces::Entry& 
         currentFontSize = font.getSize();
         cairo_set_font_size(c, currentFontSize);
     }
+    setUpFontMetrics();
     return true;
 }
 
-double vxDeviceGDIPlus::lineWidth(vxFontFace& face, const std::wstring& line, float size) const {
-    double advance = 0.0;
-    for (size_t i = 0; i < line.size(); ++i) advance += face.getAdvance(codePointAt(line, i));
-    return advance * size / face.getUnitsPerEm();
+// cairo's own metrics of the font follow the device's choice, which a
+// layer may change between two texts.
+void vxDeviceGDIPlus::setUpFontMetrics() {
+    const cairo_hint_metrics_t metrics =
+        getUseFractionalMetrics() ? CAIRO_HINT_METRICS_OFF : CAIRO_HINT_METRICS_ON;
+    cairo_font_options_t* options = cairo_font_options_create();
+    cairo_get_font_options(cr.get(), options);
+    if (cairo_font_options_get_hint_metrics(options) != metrics) {
+        cairo_font_options_set_hint_metrics(options, metrics);
+        cairo_set_font_options(cr.get(), options);
+    }
+    cairo_font_options_destroy(options);
 }
 
-// Each glyph where the advances before it end: the unscaled advances of
-// the measure, so that the line takes the width the layout gave it.
+double vxDeviceGDIPlus::lineWidth(vxFontFace& face, const std::wstring& line, float size) const {
+    const double scale = static_cast<double>(size) / face.getUnitsPerEm();
+    double width = 0.0;
+    for (size_t i = 0; i < line.size(); ++i) {
+        width += advanceAt(face.getAdvance(codePointAt(line, i)), scale, getUseFractionalMetrics());
+    }
+    return width;
+}
+
+// Each glyph where the advances before it end: the advances of the
+// measure, so that the line takes the width the layout gave it, or, with
+// metrics that aren't fractional, each of them fitted to whole pixels.
 void vxDeviceGDIPlus::showLine(vxFontFace& face, const std::wstring& line, double x,
                                double baseline, float size) {
     const double scale = static_cast<double>(size) / face.getUnitsPerEm();
+    const bool isFractional = getUseFractionalMetrics();
     FT_Face ftFace = face.getFTFace();
     glyphs.clear();
-    double advance = 0.0;
+    double pen = x;
     for (size_t i = 0; i < line.size(); ++i) {
         const char32_t c = codePointAt(line, i);
-        if (!isControl(c))
-            glyphs.push_back({glyphIndexOf(ftFace, c), x + advance * scale, baseline});
-        advance += face.getAdvance(c);
+        if (!isControl(c)) glyphs.push_back({glyphIndexOf(ftFace, c), pen, baseline});
+        pen += advanceAt(face.getAdvance(c), scale, isFractional);
     }
     if (!glyphs.empty())
         cairo_show_glyphs(cr.get(), glyphs.data(), static_cast<int>(glyphs.size()));

@@ -1,7 +1,9 @@
 // BMP written directly: a file header, a BITMAPINFOHEADER and 24-bit
 // blue-green-red rows, bottom row first, each padded to a multiple of
-// four bytes. The size of the file is known before the first byte, so the
-// output is made once at its full size and filled in place.
+// four bytes. The rows go out a batch at a time, so that a picture written
+// to a file never needs the file's size in memory; held in memory, the
+// output is reserved at its full size before the first byte.
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -56,21 +58,42 @@ void writeInfoHeader(RecordWriter& w, const vxRasterPixels& pixels, uint32_t ima
 
 }  // namespace
 
-bool vxEncodeBMP(const vxRasterPixels& pixels, const vxEncoderOptions& options,
-                 std::vector<unsigned char>& out, std::string& status) {
+bool vxWriteBMP(const vxRasterPixels& pixels, const vxEncoderOptions& options,
+                const vxByteSink& write, std::string& status) {
     const uint64_t rowSize = (uint64_t(pixels.width) * 3 + 3) & ~uint64_t(3);
     const uint64_t imageSize = rowSize * uint64_t(pixels.height);
     if (kPixelOffset + imageSize > UINT32_MAX) {
         status = "raster too large for the format";
         return false;
     }
-    out.assign(kPixelOffset + imageSize, 0);
-    RecordWriter header(out.data());
+    unsigned char headers[kPixelOffset];
+    RecordWriter header(headers);
     writeFileHeader(header, uint32_t(kPixelOffset + imageSize));
     writeInfoHeader(header, pixels, uint32_t(imageSize), vxResolutionPerMetre(options));
-    unsigned char* row = out.data() + kPixelOffset;
-    for (int y = pixels.height - 1; y >= 0; --y, row += rowSize) vxRowToBGR(pixels, y, row);
+    status = "writing failed";
+    if (!write(headers, kPixelOffset)) return false;
+    // The padding at the end of each row stays zero from the start.
+    const int batchRows = static_cast<int>(std::max<uint64_t>(1, (1u << 20) / rowSize));
+    std::vector<unsigned char> batch(size_t(rowSize) * size_t(batchRows), 0);
+    for (int y = pixels.height - 1; y >= 0;) {
+        unsigned char* row = batch.data();
+        int rows = 0;
+        for (; rows < batchRows && y >= 0; ++rows, --y, row += rowSize) vxRowToBGR(pixels, y, row);
+        if (!write(batch.data(), size_t(rowSize) * size_t(rows))) return false;
+    }
+    status.clear();
     return true;
+}
+
+bool vxEncodeBMP(const vxRasterPixels& pixels, const vxEncoderOptions& options,
+                 std::vector<unsigned char>& out, std::string& status) {
+    const uint64_t rowSize = (uint64_t(pixels.width) * 3 + 3) & ~uint64_t(3);
+    const uint64_t fileSize = kPixelOffset + rowSize * uint64_t(pixels.height);
+    if (fileSize <= UINT32_MAX) out.reserve(size_t(fileSize));
+    return vxWriteBMP(
+        pixels, options,
+        [&](const unsigned char* data, size_t length) { return vxAppendBytes(out, data, length); },
+        status);
 }
 
 }  // namespace Velarix

@@ -40,7 +40,9 @@ void vxRowToRGBA(const vxRasterPixels& pixels, int y, unsigned char* out) {
             out[1] = static_cast<unsigned char>(g);
             out[2] = static_cast<unsigned char>(b);
         } else if (a == 0) {
-            out[0] = out[1] = out[2] = 0;
+            // Premultiplied data keeps no colour where there is no alpha:
+            // the drawing's background, transparent white, stands there.
+            out[0] = out[1] = out[2] = 255;
         } else {
             out[0] = unpremultiply(r, a);
             out[1] = unpremultiply(g, a);

@@ -24,9 +24,12 @@ bool vxEncodeTIFF(const vxRasterPixels& pixels, const vxEncoderOptions& options,
                   std::vector<unsigned char>& out, std::string& status);
 bool vxEncodeBMP(const vxRasterPixels& pixels, const vxEncoderOptions& options,
                  std::vector<unsigned char>& out, std::string& status);
+// BMP handed to `write` in pieces of about a megabyte.
+bool vxWriteBMP(const vxRasterPixels& pixels, const vxEncoderOptions& options,
+                const vxByteSink& write, std::string& status);
 
-// Row y as red, green, blue, alpha bytes with the alpha divided out;
-// `out` holds width * 4 bytes.
+// Row y as red, green, blue, alpha bytes with the alpha divided out, and
+// white where alpha is 0; `out` holds width * 4 bytes.
 void vxRowToRGBA(const vxRasterPixels& pixels, int y, unsigned char* out);
 
 // Row y shown over white as red, green, blue bytes; `out` holds width * 3.

@@ -44,10 +44,13 @@ bool vxFormatHasAlpha(vxImageFormat format) {
     return format == vxImageFormat::kPNG || format == vxImageFormat::kTIFF;
 }
 
-bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
-                   const vxEncoderOptions& options, std::vector<unsigned char>& out,
-                   std::string& status) {
-    out.clear();
+namespace {
+
+// Runs `encode` on a raster that can be read, for a known format; the
+// status names the format before what went wrong.
+template <typename Encode>
+bool runEncoder(vxImageFormat format, const vxRasterPixels& pixels, std::string& status,
+                Encode encode) {
     status.clear();
     const FormatEntry* entry = entryFor(format);
     if (entry == nullptr) {
@@ -58,17 +61,43 @@ bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
     bool done = false;
     if (detail.empty()) {
         try {
-            done = entry->encode(pixels, options, out, detail);
+            done = encode(*entry, detail);
         } catch (const std::bad_alloc&) {
             detail = "out of memory";
         }
     }
+    if (!done) status = std::string(entry->name) + ": " + (detail.empty() ? "failed" : detail);
+    return done;
+}
+
+}  // namespace
+
+bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
+                   const vxEncoderOptions& options, std::vector<unsigned char>& out,
+                   std::string& status) {
+    out.clear();
+    const bool done =
+        runEncoder(format, pixels, status, [&](const FormatEntry& entry, std::string& detail) {
+            return entry.encode(pixels, options, out, detail);
+        });
     if (!done) {
         out.clear();
         out.shrink_to_fit();
-        status = std::string(entry->name) + ": " + (detail.empty() ? "failed" : detail);
     }
     return done;
+}
+
+bool vxEncodeImageTo(vxImageFormat format, const vxRasterPixels& pixels,
+                     const vxEncoderOptions& options, const vxByteSink& write,
+                     std::string& status) {
+    return runEncoder(format, pixels, status, [&](const FormatEntry& entry, std::string& detail) {
+        if (entry.format == vxImageFormat::kBMP) return vxWriteBMP(pixels, options, write, detail);
+        std::vector<unsigned char> bytes;
+        if (!entry.encode(pixels, options, bytes, detail)) return false;
+        if (write(bytes.data(), bytes.size())) return true;
+        detail = "writing failed";
+        return false;
+    });
 }
 
 }  // namespace Velarix

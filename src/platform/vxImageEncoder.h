@@ -3,6 +3,8 @@
 // they need only a few rows of memory, whatever the size of the picture.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,5 +40,16 @@ bool vxFormatHasAlpha(vxImageFormat format);
 [[nodiscard]] bool vxEncodeImage(vxImageFormat format, const vxRasterPixels& pixels,
                                  const vxEncoderOptions& options, std::vector<unsigned char>& out,
                                  std::string& status);
+
+// Takes the bytes of a picture as they are made; false stops the encoder.
+using vxByteSink = std::function<bool(const unsigned char* data, size_t length)>;
+
+// The same, with the bytes handed to `write` instead of held: BMP, which
+// is as large as the raster, a few rows at a time; the other formats,
+// compressed, in one piece at the end. On failure some bytes may have gone
+// to `write` already.
+[[nodiscard]] bool vxEncodeImageTo(vxImageFormat format, const vxRasterPixels& pixels,
+                                   const vxEncoderOptions& options, const vxByteSink& write,
+                                   std::string& status);
 
 }  // namespace Velarix

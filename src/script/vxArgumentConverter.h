@@ -47,6 +47,8 @@ private:
     vxConversion convertInterpolation(const std::wstring& text);
     vxConversion convertLongList(const std::wstring& text);
     vxConversion convertColor(const std::wstring& text);
+    vxConversion testComponents(const std::wstring& text, std::vector<double>& values) const;
+    vxConversion testGradient(const std::vector<double>& values) const;
     vxConversion readElements(const std::wstring& text, Element kind, std::vector<double>& values,
                               bool ranged) const;
     vxConversion testRange(const std::vector<double>& values, size_t from, size_t to, double min,

@@ -24,6 +24,22 @@ bool isIntegerKind(int kind) {
     return kind <= 1;
 }
 
+constexpr size_t kNumbersPerStop = 5;
+constexpr size_t kLinearLeading = 5;  // x1 y1 x2 y2 spread
+constexpr size_t kRadialLeading = 6;  // cx cy r fx fy spread
+
+// The numbers in front of the colour stops of a gradient list, or 0 when
+// the count fits neither form (at least one stop).
+size_t gradientLeading(size_t count) {
+    if (count >= kLinearLeading + kNumbersPerStop && count % kNumbersPerStop == 0) {
+        return kLinearLeading;
+    }
+    if (count >= kRadialLeading + kNumbersPerStop && count % kNumbersPerStop == 1) {
+        return kRadialLeading;
+    }
+    return 0;
+}
+
 }  // namespace
 
 // Reads the blank-separated elements of `text`; each must have the form of
@@ -207,8 +223,40 @@ long vxArgumentConverter::paletteSize() const {
     return palette.getNumOfColors();
 }
 
-// A colour name, a hash text, a palette index, or three (RGB) or four
-// (RGBA) components.
+// A gradient list: geometry and spread, then stops of red, green, blue,
+// alpha and offset. Only the colour components are range-tested; offsets
+// and coordinates are taken as written.
+vxConversion vxArgumentConverter::testGradient(const std::vector<double>& values) const {
+    const double min = std::round(descriptor->getMinValue());
+    const double max = std::round(descriptor->getMaxValue());
+    for (size_t stop = gradientLeading(values.size()); stop < values.size();
+         stop += kNumbersPerStop) {
+        const vxConversion result = testRange(values, stop, stop + 4, min, max);
+        if (result.code != 0) return result;
+    }
+    return {};
+}
+
+// A palette index, or three (RGB) or four (RGBA) components: whole numbers.
+vxConversion vxArgumentConverter::testComponents(const std::wstring& text,
+                                                 std::vector<double>& values) const {
+    values.clear();
+    vxConversion result = readElements(text, Element::kLong, values, false);
+    if (result.code != 0) return result;
+    switch (values.size()) {
+        case 1:
+            return testRange(values, 0, 1, 0.0, static_cast<double>(paletteSize()));
+        case 3:
+        case 4:
+            return testRange(values, 0, values.size(), std::round(descriptor->getMinValue()),
+                             std::round(descriptor->getMaxValue()));
+        default:
+            return {kNumberOfElements, -1};
+    }
+}
+
+// A colour name, a hash text, a palette index, three (RGB) or four (RGBA)
+// components, or the number list of a linear or radial gradient.
 vxConversion vxArgumentConverter::convertColor(const std::wstring& text) {
     vxConversion result;
     std::wstring constant;
@@ -233,20 +281,11 @@ vxConversion vxArgumentConverter::convertColor(const std::wstring& text) {
         addArray(values, Element::kFloat);
         return {};
     }
-    result = readElements(text, Element::kLong, values, false);
+    // Gradient lists carry fractions; everything else is whole numbers.
+    result = readElements(text, Element::kFloat, values, false);
     if (result.code != 0) return result;
-    switch (values.size()) {
-        case 1:
-            result = testRange(values, 0, 1, 0.0, static_cast<double>(paletteSize()));
-            break;
-        case 3:
-        case 4:
-            result = testRange(values, 0, values.size(), std::round(descriptor->getMinValue()),
-                               std::round(descriptor->getMaxValue()));
-            break;
-        default:
-            return {kNumberOfElements, -1};
-    }
+    result =
+        gradientLeading(values.size()) != 0 ? testGradient(values) : testComponents(text, values);
     if (result.code != 0) return result;
     addArray(values, Element::kFloat);
     return {};

@@ -82,6 +82,8 @@ private:
     void checkArgumentCount();
     void dispatch();
     void dispatchMisc();
+    void setThousandsSep(const vxAssign& a, long index);
+    void setGroupSize(const vxAssign& a, long index);
     void dispatchToView();
 
     // Errors, located in the script text

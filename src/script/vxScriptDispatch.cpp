@@ -43,8 +43,21 @@ void vxScript::dispatchMisc() {
         case kSetThousandsSep: {
             const std::wstring text = a.getString(0);
             formatSettings->setThousandsSep(text.empty() ? wchar_t(0) : text[0]);
+            setGroupSize(a, 1);
             break;
         }
+        case kNumberOptions:
+            if (!a.isVoid(0) && !a.getString(0).empty()) {
+                formatSettings->setDecimalPoint(a.getString(0)[0]);
+            }
+            setThousandsSep(a, 1);
+            setGroupSize(a, 2);
+            break;
+        case kDateTimeOptions:
+            if (!a.isVoid(0)) formatSettings->setDateOrderID(a.getShort(0));
+            // 1 Sunday to 7 Saturday; the names are indexed from Sunday.
+            if (!a.isVoid(1)) formatSettings->setWeekStartIndex(short(a.getShort(1) - 1));
+            break;
         case kSetDateFormat:
             formatSettings->setDateFormat(a.getString(0));
             break;
@@ -54,6 +67,20 @@ void vxScript::dispatchMisc() {
         default:
             break;
     }
+}
+
+// An empty text turns the separator off.
+void vxScript::setThousandsSep(const vxAssign& a, long index) {
+    if (a.isVoid(index)) return;
+    const std::wstring text = a.getString(index);
+    formatSettings->setThousandsSep(text.empty() ? wchar_t(0) : text[0]);
+}
+
+// A group size of 0 means no grouping; the first element of the list counts.
+void vxScript::setGroupSize(const vxAssign& a, long index) {
+    if (a.isVoid(index)) return;
+    const std::vector<short> sizes = a.getShortArray(index);
+    if (!sizes.empty()) formatSettings->setThousandsGroupSize(sizes.front());
 }
 
 void vxScript::dispatchToView() {

@@ -62,6 +62,9 @@ TEST(DrawingGolden, SymbolsAndText) {
 TEST(DrawingGolden, ClipsBackgroundsAndViews) {
     checkGoldenFile("views.txt");
 }
+TEST(DrawingGolden, DashesPatternsShadowsAndGradients) {
+    checkGoldenFile("styles.txt");
+}
 
 }  // namespace
 }  // namespace Velarix::test

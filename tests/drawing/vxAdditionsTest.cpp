@@ -81,6 +81,33 @@ TEST_F(AddPictureRun, BackgroundPictureCoversTheView) {
         << s;
 }
 
+// A nested view draws only inside its parent: its clip is its own frame cut
+// to the parent's inside, one unit larger on each side.
+TEST_F(AddPictureRun, NestedViewsClipToTheirParent) {
+    const std::string s =
+        svg("OpenView(0; 0; 50; 50)\nOpenView(25; 25; 50; 50)\nAddRect(0; 0; 50; 50)");
+    ASSERT_EQ(last.status, 0) << last.err;
+    EXPECT_NE(s.find("x=\"24\" y=\"24\" width=\"27\" height=\"27\""), std::string::npos) << s;
+}
+
+// The additions of a chart are cut to the chart's view, not to the clip of
+// a view drawn before them.
+TEST_F(AddPictureRun, ChartAdditionsKeepTheirViewsClip) {
+    const std::string s =
+        svg("OpenView(0; 0; 20; 20)\nAddRect(0; 0; 5; 5)\nCloseView()\n"
+            "OpenChart(0; 0; 100; 50)\nAddRect(50; 10; 20; 20)\nCloseChart()");
+    ASSERT_EQ(last.status, 0) << last.err;
+    const size_t clip = s.find("<clipPath id=\"clipPath2\">");
+    ASSERT_NE(clip, std::string::npos) << s;
+    EXPECT_EQ(s.find("x=\"-1\" y=\"-1\" width=\"202\" height=\"102\"/>"),
+              s.find("\t\tx=", clip) + 2)
+        << s;
+    EXPECT_NE(
+        s.find("points=\"50 10 70 10 70 30 50 30 \" \n\tstyle=\"clip-path: url(#clipPath2); "),
+        std::string::npos)
+        << s;
+}
+
 // A view holds at most 100,000 objects; the next addition is refused with
 // the place of the limit.
 TEST(AdditionLimits, TheObjectAfterTheLastAllowedIsRefused) {

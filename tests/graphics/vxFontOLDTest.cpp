@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <sstream>
 #include <string>
@@ -163,17 +164,30 @@ TEST(vxFontOLD, DumpWritesTheFieldsInOrder) {
     }
 }
 
+// Warm measuring reads cached advances and needs no font lookup: well under
+// a microsecond a label even with sanitizers. The limit leaves room for a
+// loaded machine, but not for a lookup of the font or a loaded glyph per
+// call. The fastest of a few rounds counts, so that a pause of the machine
+// in one round does not fail the test.
 TEST(vxFontOLD, MeasuringShortLabelsIsFast) {
     vxFontOLD font(L"Verdana", 10.0f, vxFontOLD::kPlain);
     const std::wstring label = L"Revenue 2024 (k EUR)";
     ASSERT_EQ(label.size(), 20u);
-    float total = font.getWidth(label);  // finds the font outside the timing
-    const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < 10000; ++i) total += font.getWidth(label);
-    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+    constexpr int kRounds = 5, kPerRound = 2000;
+    constexpr double kMicrosecondsPerLabel = 20.0;
+    float total = 0.0f;
+    for (int i = 0; i < 100; ++i) total += font.getWidth(label);  // finds the font, warms up
+    double fastest = 1e9;
+    for (int round = 0; round < kRounds; ++round) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int i = 0; i < kPerRound; ++i) total += font.getWidth(label);
+        const std::chrono::duration<double, std::micro> elapsed =
+            std::chrono::steady_clock::now() - start;
+        fastest = std::min(fastest, elapsed.count() / kPerRound);
+    }
     EXPECT_GT(total, 0.0f);
-    EXPECT_LT(elapsed.count(), 2.0);
-    RecordProperty("microseconds_per_label", std::to_string(elapsed.count() * 100.0));
+    EXPECT_LT(fastest, kMicrosecondsPerLabel);
+    RecordProperty("microseconds_per_label", std::to_string(fastest));
 }
 
 }  // namespace

@@ -154,7 +154,9 @@ TEST_F(LabelBackgroundTest, DefaultLookShowsNothingUntilAColourIsGiven) {
     ASSERT_TRUE(label.assignBackground(assign));
     EXPECT_EQ(assign.getArgumentOffset(), 8);
     label.getLabelSize(after);
-    EXPECT_FLOAT_EQ(after[0], before[0] + 4.0f);
+    // The default border of 1 counted already.
+    EXPECT_FLOAT_EQ(before[0], 40.0f + 1.0f + label.getText()->getStringWidth());
+    EXPECT_FLOAT_EQ(after[0], before[0] + 3.0f);
     expectNear(shapeInBox(), {0, 0, 1, 1}, "border of 4");
     recorder.calls.clear();
     label.draw(recorder);

@@ -64,22 +64,59 @@ TEST_F(LabelTest, SizeFromRoundedMarginsBorderAndText) {
     label.getLabelSize(size);
     EXPECT_FLOAT_EQ(size[0], m[0] + m[2] + 3.0f + tw);
     EXPECT_FLOAT_EQ(size[1], m[1] + m[3] + 3.0f + sh);
-    // The background covers the box, half the border beyond the margins.
-    Floats t(4), painted(4);
-    label.getText()->getBounds(t.data());
-    label.getBackground()->getBounds(painted.data());
-    const Floats b = box();
-    EXPECT_FLOAT_EQ(b[0], t[0] - m[0] - 1.5f);
-    EXPECT_FLOAT_EQ(b[3], t[3] + m[3] + 1.5f);
-    for (int i = 0; i < 4; ++i) EXPECT_NEAR(painted[i], b[i], 1e-4) << i;
 
-    // Plain margins are points; a border that doesn't show counts nothing.
+    // Plain margins are points: 4.4, 2.5, 6, 10.6 round to 4, 3, 6, 11.
+    // With the border of 3 the box is 13 wider and 17 higher than the
+    // text, whatever sides the margins are on.
     label.setUseRelativeMargins(false);
     label.setMargins(4.4f, 2.5f, 6.0f, 10.6f);
+    label.getLabelSize(size);
+    EXPECT_FLOAT_EQ(size[0], 13.0f + tw);
+    EXPECT_FLOAT_EQ(size[1], 17.0f + sh);
+}
+
+TEST_F(LabelTest, BoxIsCentredOnTheText) {
+    // Margins 4, 3, 6, 11 and a border of 3: 6.5 more on the left and on
+    // the right of the text, 8.5 above and below it.
+    label.setUseRelativeMargins(false);
+    label.setMargins(4.0f, 3.0f, 6.0f, 11.0f);
+    showBackground(3.0f);
+    Floats t(4), painted(4);
+    label.getText()->getBounds(t.data());
+    const Floats b = box();
+    EXPECT_FLOAT_EQ(b[0], t[0] - 6.5f);
+    EXPECT_FLOAT_EQ(b[1], t[1] - 8.5f);
+    EXPECT_FLOAT_EQ(b[2], t[2] + 6.5f);
+    EXPECT_FLOAT_EQ(b[3], t[3] + 8.5f);
+    // The background covers the box.
+    label.getBackground()->getBounds(painted.data());
+    for (int i = 0; i < 4; ++i) EXPECT_NEAR(painted[i], b[i], 1e-4) << i;
+
+    // Placing the box's corner moves the text to the middle of the box.
+    label.setLocation(100.0f, 50.0f);
+    label.getText()->getBounds(t.data());
+    EXPECT_NEAR(t[0], 106.5f, 1e-4);
+    EXPECT_NEAR(t[1], 58.5f, 1e-4);
+}
+
+TEST_F(LabelTest, BorderWidthCountsWhetherOrNotItShows) {
+    label.setUseRelativeMargins(false);
+    label.setMargins(0.0f, 0.0f, 0.0f, 0.0f);
+    float size[2];
+    label.getLabelSize(size);
+    EXPECT_FLOAT_EQ(size[0], tw);  // no background, no border
+
+    // The default background draws no border but has a stroke of 1.
+    ASSERT_TRUE(label.createBackground());
+    EXPECT_FALSE(label.getBackground()->hasBorder());
+    label.getLabelSize(size);
+    EXPECT_FLOAT_EQ(size[0], 1.0f + tw);
+    EXPECT_FLOAT_EQ(size[1], 1.0f + sh);
+
+    showBackground(5.0f);
     label.getBackground()->getAppearance()->setBorderPaint(vxBasicPaint(0, 0, 0, 0));
     label.getLabelSize(size);
-    EXPECT_FLOAT_EQ(size[0], 4.0f + 6.0f + tw);
-    EXPECT_FLOAT_EQ(size[1], 3.0f + 11.0f + sh);
+    EXPECT_FLOAT_EQ(size[0], 5.0f + tw);
 }
 
 TEST_F(LabelTest, NinePositionsAboutAnAnchor) {

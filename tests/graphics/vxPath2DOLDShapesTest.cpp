@@ -40,14 +40,20 @@ TEST(vxPath2DOLDSteps, OutdentsNeverReachPastTheFirstAndLastStep) {
     EXPECT_TRUE(hasPoints(early, {{0, 0}, {0, 10}, {10, 10}, {10, 5}, {20, 5}}));
 }
 
-TEST(vxPath2DOLDSteps, ALonePointNeedsAnOutdent) {
-    vxPath2DOLD none, line, clipped;
-    none.addStepPolygon({5}, {5}, vxPath2DOLD::kHorizontal, 0, 0, 0.5f);
+TEST(vxPath2DOLDSteps, ALonePointGetsAFlatLineWhateverTheOrientation) {
+    vxPath2DOLD none, line, upright, clipped;
+    none.addStepPolygon({5}, {5}, vxPath2DOLD::kVertical, 0, 0, 0.5f);
     EXPECT_TRUE(none.isEmpty());
-    line.addStepPolygon({5}, {5}, vxPath2DOLD::kHorizontal, 3, 4, 0.5f);
-    EXPECT_TRUE(hasPoints(line, {{2, 5}, {9, 5}}));
-    clipped.addJumpPolygon({5}, {5}, vxPath2DOLD::kVertical, -2, 4, 0.5f, 1);
-    EXPECT_TRUE(hasPoints(clipped, {{5, 5}, {5, 9}}));
+    line.addStepPolygon({5}, {8}, vxPath2DOLD::kHorizontal, 3, 4, 0.5f);
+    EXPECT_EQ(line.getVerbs(), (Verbs{2, 3}));
+    EXPECT_TRUE(hasPoints(line, {{2, 8}, {9, 8}}));
+    // Stepping along y still draws across x.
+    upright.addStepPolygon({5}, {8}, vxPath2DOLD::kVertical, 3, 4, 0.5f);
+    EXPECT_TRUE(hasPoints(upright, {{2, 8}, {9, 8}}));
+    // A negative outdent counts as none; the jump line does the same.
+    clipped.addJumpPolygon({5}, {8}, vxPath2DOLD::kVertical, -2, 4, 0.5f, 1);
+    EXPECT_EQ(clipped.getVerbs(), (Verbs{2, 3}));
+    EXPECT_TRUE(hasPoints(clipped, {{5, 8}, {9, 8}}));
 }
 
 TEST(vxPath2DOLDJumps, EachPointGetsItsOwnPiece) {
@@ -65,6 +71,21 @@ TEST(vxPath2DOLDJumps, EachPointGetsItsOwnPiece) {
     vxPath2DOLD skipped;
     skipped.addJumpPolygon(kXs, kYs, vxPath2DOLD::kHorizontal, 1, 1, 0.5f, 0.00005f);
     EXPECT_TRUE(skipped.isEmpty());
+}
+
+TEST(vxPath2DOLDJumps, APieceOfNoLengthIsKept) {
+    // Nothing ahead: the first piece has no length (no outdent), the others
+    // reach back over the whole gap.
+    vxPath2DOLD back;
+    back.addJumpPolygon(kXs, kYs, vxPath2DOLD::kHorizontal, 0, 0, 0, 1);
+    EXPECT_EQ(back.getVerbs(), (Verbs{2, 3, 2, 3, 2, 3}));
+    EXPECT_TRUE(hasPoints(back, {{0, 0}, {0, 0}, {0, 10}, {10, 10}, {10, 5}, {20, 5}}));
+
+    // Nothing back: the last piece has no length; along y when vertical.
+    vxPath2DOLD ahead;
+    ahead.addJumpPolygon(kYs, kXs, vxPath2DOLD::kVertical, 0, 0, 1, 1);
+    EXPECT_EQ(ahead.getVerbs(), (Verbs{2, 3, 2, 3, 2, 3}));
+    EXPECT_TRUE(hasPoints(ahead, {{0, 0}, {0, 10}, {10, 10}, {10, 20}, {5, 20}, {5, 20}}));
 }
 
 // ---- multigons -------------------------------------------------------------------

@@ -6,7 +6,9 @@
 #include "graphics/vxLinearGradient.h"
 #include "graphics/vxRadialGradient.h"
 #include "graphics/vxTexturePaintOLD.h"
+#include "output/vxBitmap.h"
 #include "output/vxRasterTestSupport.h"
+#include "platform/vxTexturePictures.h"
 
 namespace Velarix::test {
 namespace {
@@ -36,26 +38,71 @@ TEST(vxDeviceGDIPlusPaint, HatchShowsItsPattern) {
     }
 }
 
-// A colour with a texture number draws its colour, a texture paint
-// nothing, until pictures are read.
-TEST(vxDeviceGDIPlusPaint, TexturesWaitForPictures) {
-    const Drawn d = draw(20, 10, [](vxDevice& d) {
-        fillRect(d, *rgba(0, 128, 0, 255, 70), 0, 0, 10, 10);
-        fillRect(d, vxTexturePaintOLD(), 10, 0, 20, 10);
-    });
-    EXPECT_TRUE(isNear(d.at(5, 5), 0, 128, 0, 255));
-    EXPECT_EQ(d.alpha(15, 5), 0);
-    EXPECT_FALSE(d.device->isError());
+// A colour with a texture number draws the number's picture, repeated
+// from the drawing's origin, on either route; a texture paint without a
+// picture draws nothing.
+TEST(vxDeviceGDIPlusPaint, TextureNumbersDrawTheirPictures) {
+    for (Route route : {Route::kBitmap, Route::kRecorded}) {
+        for (short pattern : {65, 128}) {
+            const Drawn d = draw(
+                50, 40,
+                [&](vxDevice& d) {
+                    fillRect(d, *rgba(0, 128, 0, 255, pattern), 5, 0, 40, 40);
+                    fillRect(d, vxTexturePaintOLD(), 40, 0, 50, 40);
+                },
+                route);
+            vxBitmap texture;
+            ASSERT_TRUE(vxTexturePictures::make(pattern, texture));
+            for (int y = 0; y < 40; ++y) {
+                for (int x = 5; x < 40; ++x) {
+                    uint8_t c[4];
+                    texture.getColor(x % 32, y % 32, c);
+                    ASSERT_TRUE(isNear(d.at(x, y), c[0], c[1], c[2], c[3])) << x << "," << y;
+                }
+            }
+            EXPECT_EQ(d.alpha(45, 5), 0);
+            EXPECT_FALSE(d.device->isError());
+        }
+    }
 }
 
-std::unique_ptr<vxLinearGradient> redToBlue(float x1 = 0, float y1 = 0, float x2 = 1,
-                                            float y2 = 0) {
+// Blended plainly, without gamma correction, unless asked.
+std::unique_ptr<vxLinearGradient> redToBlue(float x1 = 0, float y1 = 0, float x2 = 1, float y2 = 0,
+                                            bool isGammaCorrected = false) {
     auto gradient = std::make_unique<vxLinearGradient>();
     gradient->addColor(255, 0, 0, 0.0f);
     gradient->addColor(0, 0, 255, 1.0f);
     gradient->setP1(x1, y1);
     gradient->setP2(x2, y2);
+    gradient->setUseGammaCorrection(isGammaCorrected);
     return gradient;
+}
+
+// Gamma correction, on unless turned off, blends in linear light: half way
+// from red to blue both stand at 0.5 to the power 1 / 2.2, or 186, where a
+// plain blend gives 128; alpha is blended plainly either way. The ends keep
+// their colours.
+TEST(vxDeviceGDIPlusPaint, GammaCorrectionBlendsInLinearLight) {
+    EXPECT_TRUE(vxLinearGradient().getUseGammaCorrection());
+    for (bool isGammaCorrected : {true, false}) {
+        auto gradient = redToBlue(0, 0, 1, 0, isGammaCorrected);
+        vxLinearGradient fading;
+        fading.setUseGammaCorrection(isGammaCorrected);
+        fading.addColor(255, 255, 255, 255, 0.0f);
+        fading.addColor(255, 255, 255, 0, 1.0f);
+        const Drawn d = draw(
+            101, 8,
+            [&](vxDevice& d) {
+                fillRect(d, *gradient, 0, 0, 101, 4);
+                fillRect(d, fading, 0, 4, 101, 8);
+            },
+            Route::kRecorded, 1);
+        const int middle = isGammaCorrected ? 186 : 128;
+        EXPECT_TRUE(isNear(d.at(50, 2), middle, 0, middle, 255, 2)) << isGammaCorrected;
+        EXPECT_TRUE(isNear(d.at(0, 2), 254, 0, 1, 255, 3)) << isGammaCorrected;
+        EXPECT_TRUE(isNear(d.at(100, 2), 1, 0, 254, 255, 3)) << isGammaCorrected;
+        EXPECT_NEAR(d.alpha(50, 6), 128, 2) << isGammaCorrected;
+    }
 }
 
 // Laid over the shape's bounds wherever the shape lies: left to right by
@@ -91,6 +138,7 @@ TEST(vxDeviceGDIPlusPaint, LinearGradientSpreadsAndStopAlpha) {
         EXPECT_NEAR(d.at(95, 5).r, red, 4) << spread;
     }
     vxLinearGradient fading;
+    fading.setUseGammaCorrection(false);
     fading.addColor(0, 0, 0, 255, 0.0f);
     fading.addColor(0, 0, 0, 0, 1.0f);
     const Drawn d = draw(100, 10, [&](vxDevice& d) { fillRect(d, fading, 0, 0, 100, 10); });
@@ -103,6 +151,7 @@ TEST(vxDeviceGDIPlusPaint, LinearGradientSpreadsAndStopAlpha) {
 // which a wide box draws out to an ellipse.
 TEST(vxDeviceGDIPlusPaint, RadialGradientIsScaledToTheBox) {
     vxRadialGradient gradient;
+    gradient.setUseGammaCorrection(false);
     gradient.addColor(255, 255, 255, 0.0f);
     gradient.addColor(0, 0, 0, 1.0f);
     const Drawn d = draw(

@@ -42,13 +42,14 @@ TEST(vxDeviceGDIPlus, FilledRectangleOnEitherRoute) {
     }
 }
 
-// On whole pixels the record gives what the bitmap draws directly; off
-// them the bitmap rounds, and the record half covers a pixel.
+// On whole pixels the record gives what the bitmap draws directly (strokes
+// of an even width); off them the bitmap rounds, and the record half covers
+// a pixel.
 TEST(vxDeviceGDIPlus, RoutesAndRounding) {
     auto scene = [](vxDevice& d) {
         fillRect(d, *rgba(0, 128, 255, 200), 5, 5, 40, 30);
         d.drawLine2D(*buttStroke(2), *rgba(255, 0, 0), 0, 35, 60, 2);
-        d.drawPolygon2D(*buttStroke(3), *rgba(0, 0, 0), {10, 50, 30}, {30, 30, 5}, kNoBounds, true);
+        d.drawPolygon2D(*buttStroke(4), *rgba(0, 0, 0), {10, 50, 30}, {30, 30, 5}, kNoBounds, true);
     };
     EXPECT_EQ(maxDifference(draw(60, 40, scene, Route::kBitmap, 1).picture,
                             draw(60, 40, scene, Route::kRecorded, 1).picture),
@@ -60,23 +61,34 @@ TEST(vxDeviceGDIPlus, RoutesAndRounding) {
     EXPECT_NEAR(draw(20, 10, offPixels, Route::kRecorded, 1).alpha(10, 5), 128, 2);
 }
 
-// A line of width 1 on a whole-pixel y lies half in two pixel rows: one
-// row takes it whole without antialiasing, both share it with.
-TEST(vxDeviceGDIPlus, ThinLineIsSharpWithoutAntialiasing) {
+// On a bitmap a whole-pixel coordinate is the centre of a pixel: lines of
+// width 1 and 3 cover whole rows and columns, with antialiasing or
+// without, and a width of 2 lies between two pixels. A record keeps the
+// exact coordinates: width 1 lies half in two rows.
+TEST(vxDeviceGDIPlus, ThinLinesCoverWholePixelsOnABitmap) {
     for (short antialiasing : {0, 1}) {
-        const Drawn d = draw(
-            50, 20,
-            [](vxDevice& d) { d.drawLine2D(*buttStroke(1), *rgba(0, 0, 0), 5, 10, 45, 10); },
-            Route::kBitmap, antialiasing);
-        const int above = d.alpha(20, 9), below = d.alpha(20, 10);
-        if (antialiasing == 0) {
-            EXPECT_TRUE((above == 255 && below == 0) || (above == 0 && below == 255));
-        } else {
-            EXPECT_NEAR(above, 128, 2);
-            EXPECT_NEAR(below, 128, 2);
+        for (float width : {1.0f, 2.0f, 3.0f}) {
+            const Drawn d = draw(
+                50, 20,
+                [&](vxDevice& d) {
+                    d.drawLine2D(*buttStroke(width), *rgba(0, 0, 0), 5, 10, 45, 10);
+                    d.drawLine2D(*buttStroke(width), *rgba(0, 0, 0), 30, 2, 30.4f, 18);
+                },
+                Route::kBitmap, antialiasing);
+            SCOPED_TRACE(std::to_string(antialiasing) + " width " + std::to_string(width));
+            const int first = width == 2.0f ? 9 : 10 - static_cast<int>(width) / 2;
+            const int last = first + static_cast<int>(width) - 1;
+            for (int y = 7; y <= 13; ++y)
+                EXPECT_EQ(d.alpha(20, y), y >= first && y <= last ? 255 : 0) << y;
+            for (int x = 26; x <= 34; ++x)
+                EXPECT_EQ(d.alpha(x, 15), x - 20 >= first && x - 20 <= last ? 255 : 0) << x;
         }
-        EXPECT_EQ(d.alpha(20, 8) + d.alpha(20, 11) + d.alpha(4, 9) + d.alpha(4, 10), 0);
     }
+    const Drawn recorded = draw(
+        50, 20, [](vxDevice& d) { d.drawLine2D(*buttStroke(1), *rgba(0, 0, 0), 5, 10, 45, 10); },
+        Route::kRecorded, 1);
+    EXPECT_NEAR(recorded.alpha(20, 9), 128, 2);
+    EXPECT_NEAR(recorded.alpha(20, 10), 128, 2);
 }
 
 // A zero-width stroke, a none paint, a line whose ends meet, an unknown
@@ -102,18 +114,41 @@ TEST(vxDeviceGDIPlus, CommonRulesLeaveNoTrace) {
     EXPECT_FALSE(d.device->isError());
 }
 
-// Dash pattern 1, 5 on and 2 off, in multiples of the line width; a
-// combined stroke draws its strokes one over the other.
+// A pair of a line array whose ends meet leaves the dot of its cap, square
+// or round, and nothing with a flat cap; a single line of the same ends
+// leaves nothing at all.
+TEST(vxDeviceGDIPlus, ZeroLengthPairsOfALineArrayLeaveTheirCaps) {
+    for (short cap : {vxStrokeOLD::kButtCap, vxStrokeOLD::kSquareCap, vxStrokeOLD::kRoundCap}) {
+        vxBasicStroke stroke(4.0f);
+        stroke.setLineCap(cap);
+        const Drawn d = draw(
+            40, 20,
+            [&](vxDevice& d) {
+                d.drawLineArray2D(stroke, *rgba(0, 0, 0), {10, 10.0005f, 20, 30}, {10, 10, 10, 10});
+                d.drawLine2D(stroke, *rgba(0, 0, 0), 5, 3, 5, 3);
+            },
+            Route::kRecorded, 1);
+        const int dot = cap == vxStrokeOLD::kButtCap ? 0 : 255;
+        EXPECT_EQ(d.alpha(10, 10), dot) << cap;
+        // The corner of the square, which the round dot leaves out.
+        EXPECT_EQ(d.alpha(8, 8) > 128, cap == vxStrokeOLD::kSquareCap) << cap;
+        EXPECT_EQ(d.alpha(13, 10) + d.alpha(5, 3), 0) << cap;
+        EXPECT_EQ(d.alpha(25, 10), 255) << cap;
+    }
+}
+
+// Dash pattern 1, 5 on and 2 off, keeps its lengths on a wider line, as
+// the SVG of it does; a combined stroke draws its strokes one over the
+// other.
 TEST(vxDeviceGDIPlus, DashedAndCombinedStrokes) {
-    for (float width : {1.0f, 2.0f}) {
+    for (float width : {1.0f, 2.0f, 4.0f}) {
         auto stroke = buttStroke(width);
         stroke->setDashStyle(1);
         const Drawn d = draw(
             60, 10, [&](vxDevice& d) { d.drawLine2D(*stroke, *rgba(0, 0, 0), 0, 5.5f, 60, 5.5f); },
             Route::kRecorded);
-        const int on = static_cast<int>(5 * width), period = static_cast<int>(7 * width);
-        for (int x = 0; x < 2 * period; ++x)
-            EXPECT_EQ(d.alpha(x, 5), x % period < on ? 255 : 0) << "width " << width << ", " << x;
+        for (int x = 0; x < 21; ++x)
+            EXPECT_EQ(d.alpha(x, 5), x % 7 < 5 ? 255 : 0) << "width " << width << ", " << x;
     }
     vxCombinedStroke combined;
     ASSERT_TRUE(combined.addStroke(*buttStroke(9)) && combined.addStroke(*buttStroke(1)));
@@ -223,13 +258,14 @@ TEST(vxDeviceGDIPlus, ClipLimits) {
 
 // Each type centred at 15, 15 with size 20 (10 for the marks of lines),
 // a black outline of width 3 and a green fill: a pixel that shows the
-// fill, or the outline where a shape has no fill; nothing beyond the box.
+// fill, or the outline where a shape has no fill; nothing beyond the box
+// and the outline, which stands half a pixel right and down on a bitmap.
 TEST(vxDeviceGDIPlus, SymbolShapes) {
     const struct {
         short type;
         int x, y;
         bool isFill;
-    } probes[] = {{1, 10, 10, false},  {2, 15, 15, true},   {3, 7, 7, true},    {4, 15, 15, true},
+    } probes[] = {{1, 11, 11, false},  {2, 15, 15, true},   {3, 7, 7, true},    {4, 15, 15, true},
                   {5, 15, 9, true},    {6, 15, 21, true},   {7, 15, 10, false}, {8, 15, 5, false},
                   {9, 5, 15, false},   {10, 9, 10, false},  {11, 10, 5, false}, {12, 9, 24, false},
                   {13, 12, 15, false}, {14, 15, 12, false}, {15, 8, 15, false}, {16, 22, 15, false},
@@ -242,7 +278,9 @@ TEST(vxDeviceGDIPlus, SymbolShapes) {
         EXPECT_TRUE(isNear(d.at(p.x, p.y), 0, p.isFill ? 255 : 0, 0, 255)) << p.type;
         const bool hasFill = boxOf(d.picture, [](const Pixel& px) { return px.g > 0; }).count > 0;
         EXPECT_EQ(hasFill, p.type >= 2 && p.type <= 6) << p.type;
-        EXPECT_LE(boxOf(d.picture, isInked).right, 27) << p.type;
+        const Box ink = boxOf(d.picture, isInked);
+        EXPECT_LE(ink.right, 28) << p.type;
+        EXPECT_GE(ink.left, 3) << p.type;
     }
 }
 

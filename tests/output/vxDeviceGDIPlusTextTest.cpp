@@ -104,24 +104,61 @@ TEST(vxDeviceGDIPlusText, LinesAndRotation) {
     EXPECT_EQ(maxDifference(text(0.0001f).picture, plain.picture), 0);
 }
 
-// The underline runs under the whole line, below the baseline.
+// The underline runs under the whole line as it is drawn, below the
+// baseline: as wide as the layout measured it with fractional metrics, and
+// four advances fitted to whole pixels without.
 TEST(vxDeviceGDIPlusText, Underline) {
     const vxFontOLD font(L"Arial", 20, vxFontOLD::kUnderline);
     const float width = font.getWidth(L"HHHH");
+    vxFontFace* face = vxFontService::get().findFace(font.getName(), font.getStyle());
+    const double fittedWidth =
+        4 * std::round(face->getAdvance(U'H') * 20.0 / face->getUnitsPerEm());
     const float bounds[4] = {10, 10, 10 + width, 10 + font.getStringHeight()};
     const int baseline = static_cast<int>(10 + font.getLineHeight() - font.getDescent());
-    const Drawn d = draw(
-        120, 50,
-        [&](vxDevice& d) { d.drawString2D(L"HHHH", font, *rgba(255, 0, 0), bounds, 1, 1, 0.0f); },
-        Route::kRecorded, 1);
-    const Box ink = boxOf(d.picture, isDark);
-    EXPECT_NEAR(ink.left, 10, 1);
-    EXPECT_NEAR(ink.right, 10 + width, 1);
-    EXPECT_TRUE(ink.bottom > baseline + 1 && ink.bottom < baseline + 5) << ink.bottom;
+    for (bool isFractional : {true, false}) {
+        const Drawn d = draw(
+            120, 50,
+            [&](vxDevice& d) {
+                d.setUseFractionalMetrics(isFractional);
+                d.drawString2D(L"HHHH", font, *rgba(255, 0, 0), bounds, 1, 1, 0.0f);
+            },
+            Route::kRecorded, 1);
+        const Box ink = boxOf(d.picture, isDark);
+        EXPECT_NEAR(ink.left, 10, 1);
+        EXPECT_NEAR(ink.right, 10 + (isFractional ? width : fittedWidth), 1) << isFractional;
+        EXPECT_TRUE(ink.bottom > baseline + 1 && ink.bottom < baseline + 5) << ink.bottom;
+    }
 }
 
-// Shapes and text take their antialiasing from the rendering settings,
-// each on its own.
+// Without fractional metrics each advance is fitted to whole pixels: a run
+// of a letter whose advance isn't whole ends where the rounded advances
+// take it, and a centred line is centred by that width.
+TEST(vxDeviceGDIPlusText, AdvancesFittedToPixelsUnlessFractional) {
+    const vxFontOLD font(L"Arial", 20, vxFontOLD::kPlain);
+    const std::wstring text(30, L'l');
+    vxFontFace* face = vxFontService::get().findFace(font.getName(), font.getStyle());
+    const double advance = face->getAdvance(U'l') * 20.0 / face->getUnitsPerEm();
+    ASSERT_GT(std::fabs(advance - std::round(advance)), 0.2) << advance;
+    const float bounds[4] = {10, 10, 290, 10 + font.getStringHeight()};
+    auto inkOf = [&](bool isFractional, short alignment) {
+        const Drawn d = draw(
+            300, 50,
+            [&](vxDevice& d) {
+                d.setUseFractionalMetrics(isFractional);
+                d.drawString2D(text, font, *rgba(0, 0, 0), bounds, alignment, 1, 0.0f);
+            },
+            Route::kRecorded, 1);
+        return boxOf(d.picture, isDark);
+    };
+    const Box fractional = inkOf(true, 1), fitted = inkOf(false, 1);
+    EXPECT_NEAR(fitted.left, fractional.left, 1);
+    EXPECT_NEAR(fitted.right - fractional.right, 29 * (std::round(advance) - advance), 1.5);
+    const Box centred = inkOf(false, 2);
+    EXPECT_NEAR((centred.left + centred.right) / 2.0, 150, 2);
+}
+
+// Shapes and text take their antialiasing and fractional metrics from the
+// rendering settings, each on its own.
 TEST(vxDeviceGDIPlusText, AntialiasingFromTheSettings) {
     vxUserSettings settings(L"", L"", 1, 0);
     vxDrawingSpecs specs;
@@ -131,9 +168,11 @@ TEST(vxDeviceGDIPlusText, AntialiasingFromTheSettings) {
     for (bool shapes : {false, true}) {
         settings.getRenderingSettings()->setShapeAntialiasing(shapes);
         settings.getRenderingSettings()->setTextAntialiasing(!shapes);
+        settings.getRenderingSettings()->setFractionalMetrics(shapes);
         vxDeviceGDIPlus device(&settings);
         device.setUp(specs);
         EXPECT_EQ(device.getAntialiasing(), shapes ? 1 : 0);
+        EXPECT_EQ(device.getUseFractionalMetrics(), shapes);
         device.open();
         device.drawLine2D(*buttStroke(2), *rgba(0, 0, 0), 5, 5, 195, 17);
         device.drawString2D(L"Aa Ww", font, *rgba(0, 0, 0), bounds, 1, 1, 0.0f);

@@ -116,6 +116,11 @@ TEST(vxDeviceSVGGolden, Shapes) {
     device->fillPath2D(*blue, verbs, x, y, kNoBounds, 1);
     // A move and a vertical line; the cubic lacks its third point.
     device->fillPath2D(*blue, {2, 3, 5}, {100, 100, 1, 2}, {10, 20, 3, 4}, kNoBounds, 0);
+    // Diagonal lines, then a line without a move: it starts from 0, 0.
+    const vxVerbs zigzag = {2, 3, 3, 3};
+    const vxPoints zigzagX = {120, 150, 180, 180}, zigzagY = {10, 40, 10, 10};
+    device->drawPath2D(*thin, *black, zigzag, zigzagX, zigzagY, kNoBounds);
+    device->fillPath2D(*blue, {3, 3}, {0, 20}, {10, 30}, kNoBounds, 0);
 
     vxShadowOLD shadow;
     shadow.setOffsets(4, -2.5f);
@@ -124,6 +129,10 @@ TEST(vxDeviceSVGGolden, Shapes) {
     device->drawPolygon2D(stroke, shadow, {10, 50, 30}, {60, 60, 90}, kNoBounds, true);
     device->fillPolygon2D(shadow, {110, 150, 130}, {60, 60, 90}, kNoBounds, 1);
     device->drawPath2D(*thin, shadow, verbs, x, y, kNoBounds);
+    device->fillPath2D(shadow, verbs, x, y, kNoBounds, 0);
+    // The choice of H, V or L follows the plain points, not the shifted.
+    device->drawPath2D(*thin, shadow, zigzag, zigzagX, zigzagY, kNoBounds);
+    device->fillPath2D(shadow, {3, 3}, {0, 20}, {10, 30}, kNoBounds, 1);
     expectGolden("svg-shapes.svg", finished(*device));
 }
 

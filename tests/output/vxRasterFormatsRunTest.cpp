@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 
 #include <cmath>
+#include <filesystem>
 #include <regex>
 #include <string>
 #include <vector>
@@ -81,7 +82,7 @@ TEST(vxRasterFormatsRun, ShapesInEveryFormat) {
             EXPECT_EQ(p.width, 80);
             EXPECT_EQ(p.height, 60);
             EXPECT_EQ(p.hasAlpha, f.alpha);
-            const vxRGBA background = f.alpha ? vxRGBA{0, 0, 0, 0} : vxRGBA{255, 255, 255, 255};
+            const vxRGBA background = {255, 255, 255, f.alpha ? 0 : 255};
             EXPECT_TRUE(isNear(p.at(10, 45), background, f.alpha ? 0 : 2));
             EXPECT_TRUE(isNear(p.at(14, 14), {255, 0, 0, 255}, f.tolerance));
 
@@ -122,6 +123,7 @@ TEST(vxRasterFormatsRun, ShapesInEveryFormat) {
 TEST(vxRasterFormatsRun, GradientRunsFromFirstToLastColourInEveryFormat) {
     const std::string folder = makeTempFolder("formats-gradient");
     vxLinearGradient gradient;
+    gradient.setUseGammaCorrection(false);
     gradient.addColor(255, 0, 0, 0.0f);
     gradient.addColor(0, 0, 255, 1.0f);
     const Drawn d = draw(
@@ -201,27 +203,35 @@ TEST(vxRasterFormatsRun, TextInThePNGSitsWhereTheSVGPutsIt) {
     }
 }
 
-// A picture of 10000 by 10000 pixels takes 400 MB as it is drawn; writing it
-// in a format with alpha and one without holds one such picture at a time.
+// A picture of 10000 by 10000 pixels takes 400 MB as it is drawn. On
+// either route it is all the memory that writing it takes, in a format with
+// alpha, one without, and BMP, whose 300 MB file goes out a few rows at a
+// time: a second picture or the BMP file in memory would pass 700 MB.
 TEST(vxRasterFormatsRun, HugeDrawingIsWrittenInOnePicturesMemory) {
-    const std::string folder = makeTempFolder("formats-huge");
-    const RunResult r =
-        runVelarixBinary("--base " + folder,
-                         "OpenDrawing(10000; 10000)\nAddRect(100; 100; 9800; 9800; 255 0 0)\n"
-                         "SaveAsPNGFile(\"big.png\")\nSaveAsJPGFile(\"big.jpg\")\n");
-    ASSERT_EQ(r.status, 0) << r.err;
+    for (const char* route : {"0", "1"}) {
+        SCOPED_TRACE(std::string("route ") + route);
+        const std::string folder = makeTempFolder(std::string("formats-huge-") + route);
+        const RunResult r = runVelarixBinary(
+            "--base " + folder, std::string("OpenDrawing(10000; 10000; ") + route +
+                                    ")\nAddRect(100; 100; 9800; 9800; 255 0 0)\n"
+                                    "SaveAsPNGFile(\"big.png\")\nSaveAsJPGFile(\"big.jpg\")\n"
+                                    "SaveAsBMPFile(\"big.bmp\")\n");
+        ASSERT_EQ(r.status, 0) << r.err;
+        const std::string png = readFile(folder + "/big.png");
+        ASSERT_GT(png.size(), 24u);
+        auto bigEndian = [&](size_t at) {
+            return (unsigned(uint8_t(png[at])) << 24) | (unsigned(uint8_t(png[at + 1])) << 16) |
+                   (unsigned(uint8_t(png[at + 2])) << 8) | unsigned(uint8_t(png[at + 3]));
+        };
+        EXPECT_EQ(bigEndian(16), 10000u);
+        EXPECT_EQ(bigEndian(20), 10000u);
+        EXPECT_GT(readFile(folder + "/big.jpg").size(), 1000u);
+        EXPECT_EQ(std::filesystem::file_size(folder + "/big.bmp"), 54u + 30000u * 10000u);
+        std::filesystem::remove(folder + "/big.bmp");
+    }
     rusage usage{};
     getrusage(RUSAGE_CHILDREN, &usage);
-    EXPECT_LT(usage.ru_maxrss, 700L * 1024) << "kilobytes at the peak";
-    const std::string png = readFile(folder + "/big.png");
-    ASSERT_GT(png.size(), 24u);
-    auto bigEndian = [&](size_t at) {
-        return (unsigned(uint8_t(png[at])) << 24) | (unsigned(uint8_t(png[at + 1])) << 16) |
-               (unsigned(uint8_t(png[at + 2])) << 8) | unsigned(uint8_t(png[at + 3]));
-    };
-    EXPECT_EQ(bigEndian(16), 10000u);
-    EXPECT_EQ(bigEndian(20), 10000u);
-    EXPECT_GT(readFile(folder + "/big.jpg").size(), 1000u);
+    EXPECT_LT(usage.ru_maxrss, 560L * 1024) << "kilobytes at the peak";
 }
 
 }  // namespace

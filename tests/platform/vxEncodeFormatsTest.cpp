@@ -76,6 +76,41 @@ TEST(vxEncodeBMP, WritesHeadersAndPaddedRowsBottomUp) {
     EXPECT_EQ(encode(vxImageFormat::kBMP, raster, options), expected);
 }
 
+// Handed to a writer, a BMP larger than a megabyte comes in several pieces
+// that make the same file as the one held in memory; the other formats
+// come in one piece. A writer that refuses stops the encoder.
+TEST(vxEncodeImageTo, WritesBMPInPiecesAndStopsWhenRefused) {
+    vxTestRaster raster(1000, 400);
+    raster.fill(0, 0, 500, 400, {255, 0, 0, 255});
+    raster.fill(0, 200, 1000, 210, {0, 0, 255, 128});
+    for (vxImageFormat format : {vxImageFormat::kBMP, vxImageFormat::kPNG}) {
+        std::vector<unsigned char> joined;
+        int pieces = 0;
+        std::string status;
+        ASSERT_TRUE(vxEncodeImageTo(
+            format, raster.pixels(), {},
+            [&](const unsigned char* data, size_t length) {
+                joined.insert(joined.end(), data, data + length);
+                return ++pieces > 0;
+            },
+            status))
+            << status;
+        EXPECT_EQ(joined, encode(format, raster));
+        if (format == vxImageFormat::kBMP) {
+            EXPECT_GT(pieces, 2);
+        } else {
+            EXPECT_EQ(pieces, 1);
+        }
+    }
+    int calls = 0;
+    std::string status;
+    EXPECT_FALSE(vxEncodeImageTo(
+        vxImageFormat::kBMP, raster.pixels(), {},
+        [&](const unsigned char*, size_t) { return ++calls < 2; }, status));
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(status.rfind("BMP: ", 0), 0u) << status;
+}
+
 TEST(vxEncodeTIFF, CompressesFlatAreas) {
     vxTestRaster raster(200, 200);
     raster.fill(50, 50, 150, 150, {255, 0, 0, 255});

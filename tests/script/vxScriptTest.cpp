@@ -11,6 +11,7 @@
 #include "script/vxAssign.h"
 #include "script/vxScript.h"
 #include "settings/vxErrorSettings.h"
+#include "settings/vxFormatSettings.h"
 #include "settings/vxRenderingSettings.h"
 #include "settings/vxUserSettings.h"
 
@@ -122,6 +123,34 @@ TEST_F(Reader, OpenDrawingSetsTheDrawingParameters) {
     EXPECT_EQ(r->getShapeAntialiasing(), 0);
     EXPECT_EQ(r->getTextAntialiasing(), 1);
     EXPECT_EQ(r->getFractionalMetrics(), 1);
+}
+
+// The format functions write into the format settings, and an argument left
+// empty keeps what was there.
+TEST_F(Reader, FormatFunctionsSetTheFormatSettings) {
+    const vxFormatSettings* f = settings.getFormatSettings();
+    script.tokenize(L"OpenDrawing(9; 9) NumberOptions(\",\"; \".\"; 4) DateTimeOptions(dmy; 2)");
+    ASSERT_FALSE(script.isError()) << describe();
+    EXPECT_EQ(f->getDecimalPoint(), L',');
+    EXPECT_EQ(f->getThousandsSep(), L'.');
+    EXPECT_EQ(f->getThousandsGroupSize(), 4);
+    EXPECT_EQ(f->getDateOrderID(), 3);
+    EXPECT_EQ(f->getWeekStartIndex(), 1);
+
+    script.tokenize(
+        L"OpenDrawing(9; 9) NumberOptions(; ; 2) DateTimeOptions(; 1) SetThousandsSep(\"'\")");
+    ASSERT_FALSE(script.isError()) << describe();
+    EXPECT_EQ(f->getDecimalPoint(), L',');
+    EXPECT_EQ(f->getThousandsSep(), L'\'');
+    EXPECT_EQ(f->getThousandsGroupSize(), 2);
+    EXPECT_EQ(f->getDateOrderID(), 3);
+    EXPECT_EQ(f->getWeekStartIndex(), 0);
+
+    script.tokenize(L"OpenDrawing(9; 9) SetThousandsSep(\"\"; 3) SetDecimalPoint(\".\")");
+    ASSERT_FALSE(script.isError()) << describe();
+    EXPECT_EQ(f->getThousandsSep(), 0);
+    EXPECT_EQ(f->getThousandsGroupSize(), 3);
+    EXPECT_EQ(f->getDecimalPoint(), L'.');
 }
 
 TEST_F(Reader, DrawingFlagsFollowOpenAndClose) {
