@@ -80,7 +80,7 @@ void vxLayer::dump(short depth, std::ostream& out) const {
     vxDumpLine(out, "bool  isLocked:     ", locked);
     vxDumpLine(out, "long  typeID:       ", typeID);
     vxDumpLine(out, "long  subTypeID:    ", subTypeID);
-    vxDumpLine(out, "float clipRect[4]:  ", clipRect[0], clipRect[1]);
+    vxDumpLine(out, "float clipRect[4]:  ", clipRect, 4);
     vxDumpLine(out, "vector<long> drawingIndices:  ", drawingIndices);
     vxDumpLine(out, "Num of shapes: ", getNumOfShapes());
     for (const vxGObjectOLD* shape : shapes) shape->dump(static_cast<short>(depth - 1), out);

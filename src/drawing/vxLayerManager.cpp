@@ -111,6 +111,7 @@ void vxLayerManager::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDumpHeader(out, "vxLayerManager");
     vxDumpLine(out, "long  currentObjectIndex:     ", currentObjectIndex);
+    vxDumpLine(out, "float currentClipRect[4]:     ", currentClipRect, 4);
     vxDumpLine(out, "vector<long> drawingIndices:  ", drawingIndices);
     vxDumpLine(out, "Num of layers: ", getNumOfLayers());
     for (const auto& layer : layers) layer->dump(static_cast<short>(depth - 1), out);

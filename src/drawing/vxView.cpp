@@ -345,6 +345,8 @@ void vxView::setUpCurveFittingData(vxCurveFittingData* data) {
 void vxView::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDumpHeader(out, "vxView");
+    vxDumpLine(out, "vector<float> x,y:    ", x.data(), x.size());
+    vxDumpLine(out, "                      ", y.data(), y.size());
     vxDumpLine(out, "float viewAngle:      ", viewAngle);
     vxDumpLine(out, "float viewXPivot:     ", viewXPivot);
     vxDumpLine(out, "float viewYPivot:     ", viewYPivot);
@@ -352,8 +354,8 @@ void vxView::dump(short depth, std::ostream& out) const {
     vxDumpLine(out, "long chartIndex:      ", chartIndex);
     vxDumpLine(out, "long tableIndex:      ", tableIndex);
     vxDumpLine(out, "long calendarIndex:   ", calendarIndex);
-    vxDumpLine(out, "float left,top:       ", viewBounds[0], viewBounds[1]);
-    vxDumpLine(out, "float right,bottom:   ", viewBounds[2], viewBounds[3]);
+    vxDumpLine(out, "float bounds[4]:      ", viewBounds, 4);
+    vxDumpLine(out, "bool doRecalcBounds:  ", doesRecalcBounds());
     vxDumpLine(out, "Num of objects: ", getNumOfObjects());
     for (const auto& object : objects) object->dump(static_cast<short>(depth - 1), out);
     vxDumpEnd(out);

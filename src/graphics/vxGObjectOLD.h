@@ -118,6 +118,7 @@ protected:
     // The minimum and maximum of the stored coordinates.
     virtual void calculateBounds(float bounds[4]) const;
     void invalidateBounds() { doRecalcBounds = true; }
+    bool doesRecalcBounds() const { return doRecalcBounds; }
     void applyTransform(const vxTransform2DOLD& transform);
     void scaleExtent(bool horizontal, float extent);
     const float* bounds();

@@ -158,6 +158,12 @@ void vxDumpLine(std::ostream& out, const char* label, float a, float b) {
     out << indent() << label << formatNumber(a) << ", " << formatNumber(b) << "\n";
 }
 
+void vxDumpLine(std::ostream& out, const char* label, const float* values, size_t count) {
+    out << indent() << label;
+    for (size_t i = 0; i < count; ++i) out << (i ? ", " : "") << formatNumber(values[i]);
+    out << "\n";
+}
+
 void vxDumpLine(std::ostream& out, const char* label, const std::wstring& value) {
     out << indent() << label << vxNarrow(value) << "\n";
 }

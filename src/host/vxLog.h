@@ -52,6 +52,8 @@ void vxDumpLine(std::ostream& out, const char* label, long value);
 void vxDumpLine(std::ostream& out, const char* label, float value);
 void vxDumpLine(std::ostream& out, const char* label, double value);
 void vxDumpLine(std::ostream& out, const char* label, float a, float b);
+// A row of floats separated by commas, such as a rectangle's four sides.
+void vxDumpLine(std::ostream& out, const char* label, const float* values, size_t count);
 void vxDumpLine(std::ostream& out, const char* label, const std::wstring& value);
 void vxDumpLine(std::ostream& out, const char* label, const std::vector<std::wstring>& values);
 void vxDumpLine(std::ostream& out, const char* label, const std::vector<long>& values);
