@@ -1,6 +1,8 @@
 #include "platform/vxPictureReader.h"
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 #include "output/vxBitmap.h"
 #include "output/vxFileType.h"
@@ -36,8 +38,22 @@ bool vxPictureReader::read(short fileType, Bytes bytes, vxBitmap& bitmap) {
     return false;
 }
 
+short vxPictureReader::typeOfBytes(Bytes bytes) {
+    auto begins = [bytes](std::initializer_list<uint8_t> signature) {
+        return bytes.size() >= signature.size() &&
+               std::equal(signature.begin(), signature.end(), bytes.begin());
+    };
+    if (begins({0x89, 'P', 'N', 'G', 0x0d, 0x0a, 0x1a, 0x0a})) return kFileTypePNG;
+    if (begins({0xff, 0xd8, 0xff})) return kFileTypeJPEG;
+    if (begins({'G', 'I', 'F', '8'})) return kFileTypeGIF;
+    if (begins({'I', 'I', 0x2a, 0x00}) || begins({'M', 'M', 0x00, 0x2a})) return kFileTypeTIFF;
+    if (begins({'B', 'M'})) return kFileTypeBMP;
+    return 0;
+}
+
 bool vxPictureReader::dispatch(short fileType, Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap) {
     clearError();
+    if (const short found = typeOfBytes(bytes); found != 0 && canRead(fileType)) fileType = found;
     switch (fileType) {
         case kFileTypePNG:
             return readPNG(bytes, info, bitmap);

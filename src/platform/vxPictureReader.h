@@ -3,8 +3,10 @@
 // first frame), TIFF through libtiff and BMP by hand (uncompressed 24 and
 // 32 bits, 1, 4 and 8 bits with a palette, bit fields for 32 bits).
 //
-// The format is the one the file's name promises; bytes of another kind
-// are refused. Faults, each at "vxPictureReader/readFORMAT/n":
+// The bytes decide the format when they begin with the signature of one
+// that has a reader, as a picture named .jpg that holds a PNG; otherwise the
+// format is the one the file's name promises. Faults, each at
+// "vxPictureReader/readFORMAT/n":
 //   4013  the bytes aren't a picture of the promised kind, or the kind has
 //         no reader here;
 //   4004  the picture ends early or its data is damaged;
@@ -47,6 +49,8 @@ public:
 
 private:
     // Each reads the header into `info` and, with a bitmap, the pixels.
+    // The format whose signature the bytes begin with, or 0.
+    static short typeOfBytes(Bytes bytes);
     bool readPNG(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap);
     bool readJPEG(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap);
     bool readGIF(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap);

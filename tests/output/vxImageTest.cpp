@@ -71,14 +71,20 @@ TEST_F(vxImageTest, FileSourceReadsSizeAndPixels) {
     EXPECT_EQ(image.getBitmap()->getPixel(1, 2), pixels.getPixel(1, 2));
 }
 
-// The reader follows the name: "jpeg" and "JPG" are JPEG files.
-TEST_F(vxImageTest, FileTypeFollowsTheExtensionWhateverTheCase) {
+// The name says whether a picture reader exists: "jpeg" and "JPG" are JPEG
+// files. The bytes say which reader: a PNG under a GIF's name is read.
+TEST_F(vxImageTest, FileTypeFollowsTheExtensionWhateverTheCaseAndThenTheBytes) {
     const std::string jpeg = test::encodeJPEG(picture);
     for (const char* name : {"a.jpeg", "b.JPG", "c.JpEg"}) {
         vxImage image;
         EXPECT_TRUE(image.setSource(kSourceFile, put(name, jpeg))) << name;
         EXPECT_EQ(image.getSource()->getHeight(), 3) << name;
     }
+    vxImage misnamed;
+    ASSERT_TRUE(misnamed.setSource(kSourceFile, put("wrong.gif", test::encodePNG(picture))));
+    vxBitmap pixels;
+    ASSERT_TRUE(misnamed.readBitmap(pixels));
+    EXPECT_EQ(pixels.getPixel(1, 2), vxBitmap::premultiply(40, 120, 200, 255));
 }
 
 TEST_F(vxImageTest, FileFaultsBecomeErrorRecords) {
@@ -90,7 +96,7 @@ TEST_F(vxImageTest, FileFaultsBecomeErrorRecords) {
         {path("missing.png"), 4000},
         {put("notes.txt", "hello"), 4013},   // no picture reader
         {put("chart.svg", "<svg/>"), 4013},  // no picture reader
-        {put("wrong.gif", png), 4013},       // a PNG under a GIF's name
+        {put("wrong.gif", "GIF"), 4013},     // too short for a GIF
         {put("cut.png", png.substr(0, png.size() - 20)), 4004},
         {put("empty.bmp", ""), 4013},
         {L"", 4011},

@@ -174,6 +174,8 @@ TEST(vxPictureReader, CutFilesFailWithoutCrashing) {
     }
 }
 
+// Bytes without a picture's signature are refused by every reader; a
+// picture under another format's name is read by the reader of its bytes.
 TEST(vxPictureReader, ForeignBytesAreAnUnknownFormat) {
     const std::string png = test::encodePNG(test::makePicture(3, 3));
     const std::string text = "Region;Sales\nNorth;12\n";
@@ -182,9 +184,8 @@ TEST(vxPictureReader, ForeignBytesAreAnUnknownFormat) {
         vxBitmap bitmap;
         EXPECT_FALSE(reader.read(type, bytesOf(text), bitmap));
         EXPECT_EQ(reader.getError()->getErrorCode(), 4013) << type;
-        if (type == kFileTypePNG) continue;
-        EXPECT_FALSE(reader.read(type, bytesOf(png), bitmap));
-        EXPECT_EQ(reader.getError()->getErrorCode(), 4013) << type;
+        EXPECT_TRUE(reader.read(type, bytesOf(png), bitmap)) << type;
+        EXPECT_EQ(bitmap.getWidth(), 3) << type;
     }
     vxPictureReader reader;
     vxPictureInfo info;
