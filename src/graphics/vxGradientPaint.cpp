@@ -13,7 +13,6 @@ namespace Velarix {
 namespace {
 
 constexpr float kOffsetTolerance = 0.0001f;
-constexpr long kNumbersPerStop = 5;
 
 // The spread code of a script number; one far outside the codes must not
 // wrap round into one of them.

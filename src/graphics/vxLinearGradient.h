@@ -37,7 +37,9 @@ public:
     std::unique_ptr<vxPaintOLD> clone() const override;
 
 protected:
-    long getNumOfLeadingNumbers() const override { return 5; }  // x1 y1 x2 y2 spread
+    long getNumOfLeadingNumbers() const override {  // x1 y1 x2 y2 spread
+        return getNumOfLeadingNumbersOf(kLinearGradient);
+    }
     void setGeometry(const float* numbers) override;
 
     void resetFields() override;

@@ -57,11 +57,20 @@ long vxPaintOLD::getNumOfArguments(const vxAssign& assign) {
 
 short vxPaintOLD::getKindOfArgument(const vxAssign& assign, long index) {
     if (assign.isVoid(index)) return 0;
-    const long count = assign.getArraySize(index);
-    if (count <= 4) return kBasic;  // a scalar or a hash text counts 0
-    if (count % 5 == 0) return kLinearGradient;
-    if (count % 5 == 1) return kRadialGradient;
+    return getKindOfCount(assign.getArraySize(index));  // a scalar or a hash text counts 0
+}
+
+short vxPaintOLD::getKindOfCount(long count) {
+    if (count <= 4) return kBasic;
+    for (short kind : {kLinearGradient, kRadialGradient}) {
+        const long leading = getNumOfLeadingNumbersOf(kind);
+        if (count >= leading && (count - leading) % kNumbersPerStop == 0) return kind;
+    }
     return 0;
+}
+
+long vxPaintOLD::getNumOfLeadingNumbersOf(short kind) {
+    return kind == kRadialGradient ? 6 : 5;
 }
 
 std::unique_ptr<vxPaintOLD> vxPaintOLD::make(short kind) {

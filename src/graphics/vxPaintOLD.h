@@ -56,6 +56,14 @@ public:
     // The kind that the colour argument at `index` makes; 0 when it is void
     // or its count fits no kind.
     static short getKindOfArgument(const vxAssign& assign, long index);
+    // The kind of a colour list of `count` numbers: up to four a basic
+    // colour; x1 y1 x2 y2 spread and stops of five numbers (red, green,
+    // blue, alpha, offset) a linear gradient; cx cy r fx fy spread and the
+    // stops a radial one (stops may be missing); 0 for any other count.
+    static short getKindOfCount(long count);
+    // The numbers in front of the stops of a gradient kind.
+    static long getNumOfLeadingNumbersOf(short kind);
+    static constexpr long kNumbersPerStop = 5;
     // A new paint of a kind with its defaults; null for an unknown kind.
     // Throws std::bad_alloc.
     static std::unique_ptr<vxPaintOLD> make(short kind);

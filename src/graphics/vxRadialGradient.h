@@ -30,7 +30,9 @@ public:
     std::unique_ptr<vxPaintOLD> clone() const override;
 
 protected:
-    long getNumOfLeadingNumbers() const override { return 6; }  // cx cy r fx fy spread
+    long getNumOfLeadingNumbers() const override {  // cx cy r fx fy spread
+        return getNumOfLeadingNumbersOf(kRadialGradient);
+    }
     void setGeometry(const float* numbers) override;
 
     void resetFields() override;

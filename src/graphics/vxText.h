@@ -160,7 +160,6 @@ private:
     void setUpBounds() const;
     void assignFont(const vxAssign& assign);
     void assignColor(vxAssign& assign, const vxUserSettings* settings);
-    void assignGradient(vxAssign& assign, const vxUserSettings* settings, short kind);
 
     std::wstring inputString;
     mutable std::wstring outputString;

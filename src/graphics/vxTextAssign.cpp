@@ -60,7 +60,10 @@ void vxText::assignFont(const vxAssign& assign) {
 void vxText::assignColor(vxAssign& assign, const vxUserSettings* settings) {
     const short kind = vxPaintOLD::getKindOfArgument(assign, 0);
     if (kind == vxPaintOLD::kLinearGradient || kind == vxPaintOLD::kRadialGradient) {
-        assignGradient(assign, settings, kind);
+        // The paint reads its own arguments; the caller moves past the colour.
+        const long offset = assign.getArgumentOffset();
+        vxPaintOLD::assignByKind(paint, assign, settings, *this, L"createPaint");
+        assign.addToArgumentOffset(offset - assign.getArgumentOffset());
         return;
     }
     vxColorOLD color;
@@ -70,20 +73,6 @@ void vxText::assignColor(vxAssign& assign, const vxUserSettings* settings) {
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"createPaint"));
     }
-}
-
-// The paint reads its own arguments; the caller moves past the colour.
-void vxText::assignGradient(vxAssign& assign, const vxUserSettings* settings, short kind) {
-    std::unique_ptr<vxPaintOLD> gradient;
-    if (!vxPaintOLD::createInto(gradient, kind, *this, L"createPaint")) return;
-    const long offset = assign.getArgumentOffset();
-    gradient->assign(assign, settings);
-    assign.addToArgumentOffset(offset - assign.getArgumentOffset());
-    if (gradient->isError()) {
-        copyError(gradient->getError());
-        return;
-    }
-    paint = std::move(gradient);
 }
 
 }  // namespace Velarix

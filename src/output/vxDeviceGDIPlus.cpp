@@ -95,7 +95,6 @@ void vxDeviceGDIPlus::discard() {
     cr.reset();
     canvas.reset();
     picture.reset();
-    pictureOnWhite.reset();
     clipMask.reset();
     clipPaths.clear();
     isClosed = false;
@@ -132,12 +131,11 @@ void vxDeviceGDIPlus::setUpContext() {
                         getAntialiasing() != 0 ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
     cairo_font_options_t* options = cairo_font_options_create();
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_hint_metrics(
-        options, getUseFractionalMetrics() ? CAIRO_HINT_METRICS_OFF : CAIRO_HINT_METRICS_ON);
     cairo_font_options_set_antialias(
         options, isTextAntialiased() ? CAIRO_ANTIALIAS_GRAY : CAIRO_ANTIALIAS_NONE);
     cairo_set_font_options(cr.get(), options);
     cairo_font_options_destroy(options);
+    setUpFontMetrics();
     forgetContextState();
     cairo_set_line_width(cr.get(), 1.0);
     cairo_set_line_cap(cr.get(), CAIRO_LINE_CAP_SQUARE);
@@ -171,19 +169,17 @@ void vxDeviceGDIPlus::close() {
     writeTargets();
 }
 
-cairo_surface_t* vxDeviceGDIPlus::getPicture(bool onWhite) {
+cairo_surface_t* vxDeviceGDIPlus::getPicture() {
     if (!isClosed) return nullptr;
-    makePicture(onWhite);
-    return onWhite ? pictureOnWhite.get() : picture.get();
+    makePicture();
+    return picture.get();
 }
 
-// The bitmap is its own picture; a record is played into a new one. A
-// picture laid on white is painted over opaque white.
-void vxDeviceGDIPlus::makePicture(bool onWhite) {
-    vxCairoSurface& slot = onWhite ? pictureOnWhite : picture;
-    if (slot || !canvas) return;
-    if (isBitmapRoute && !onWhite) {
-        slot.reset(cairo_surface_reference(canvas.get()));
+// The bitmap is its own picture; a record is played into a new one.
+void vxDeviceGDIPlus::makePicture() {
+    if (picture || !canvas) return;
+    if (isBitmapRoute) {
+        picture.reset(cairo_surface_reference(canvas.get()));
         return;
     }
     vxCairoSurface image(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixelWidth, pixelHeight));
@@ -191,17 +187,10 @@ void vxDeviceGDIPlus::makePicture(bool onWhite) {
     vxCairoContext painter(cairo_create(image.get()));
     cairo_set_source_surface(painter.get(), canvas.get(), 0.0, 0.0);
     cairo_paint(painter.get());
-    // White goes in behind the picture, in place: a record played over
-    // white at once would be played into a copy of the whole picture first.
-    if (onWhite) {
-        cairo_set_operator(painter.get(), CAIRO_OPERATOR_DEST_OVER);
-        cairo_set_source_rgb(painter.get(), 1.0, 1.0, 1.0);
-        cairo_paint(painter.get());
-    }
     if (!reportCairoStatus(cairo_status(painter.get()), L"makePicture", 2)) return;
     painter.reset();
     cairo_surface_flush(image.get());
-    slot = std::move(image);
+    picture = std::move(image);
 }
 
 // Clipboard targets have nothing to take on this platform; file and
@@ -258,7 +247,7 @@ bool vxDeviceGDIPlus::writeTarget(vxWriteExternal& target) {
 // held in memory once. A fault of the target is the target's to report.
 bool vxDeviceGDIPlus::encode(const vxWriteExternal& target, const vxByteSink& write) {
     const short format = target.getFormat();
-    cairo_surface_t* image = getPicture(false);
+    cairo_surface_t* image = getPicture();
     if (!image) return false;
     if (pixelWidth == 0 || pixelHeight == 0) {
         fail(vxErrChart::kImageDimension, L"encode", 1);

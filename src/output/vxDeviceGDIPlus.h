@@ -130,10 +130,10 @@ public:
     long getNumOfStreams() const override;
     const vxStreamRecord* getStream(long index) const override;
 
-    // The finished picture after close, an ARGB32 image surface owned by
-    // the device: as the formats with alpha get it, or laid on opaque white
-    // as the others do. Null before close and after a failure.
-    cairo_surface_t* getPicture(bool onWhite = false);
+    // The finished picture after close, an ARGB32 image surface with alpha
+    // owned by the device; the encoders of the formats without alpha lay it
+    // on white. Null before close and after a failure.
+    cairo_surface_t* getPicture();
 
     void dump(short depth, std::ostream& out) const override;
 
@@ -161,7 +161,7 @@ private:
     // Setup and close (vxDeviceGDIPlus.cpp).
     bool createCanvas();
     void setUpContext();
-    void makePicture(bool onWhite);
+    void makePicture();
     void writeTargets();
     bool writeTarget(vxWriteExternal& target);
     // The picture in the target's format; false after reporting a fault.
@@ -257,8 +257,7 @@ private:
     short textAntialiasing = -1;
     vxCairoSurface canvas;  // the picture itself, or the record
     vxCairoContext cr;
-    vxCairoSurface picture;         // after close: as with alpha
-    vxCairoSurface pictureOnWhite;  // after close: laid on white
+    vxCairoSurface picture;  // after close: as with alpha
     bool isClosed = false;
 
     // The clip: a cairo clip of intersections, or, once an exclusion or a

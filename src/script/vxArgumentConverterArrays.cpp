@@ -6,6 +6,7 @@
 #include "Utilities/Sources/vxTokenizer.h"
 #include "graphics/vxColorOLD.h"
 #include "graphics/vxColorPaletteOLD.h"
+#include "graphics/vxPaintOLD.h"
 #include "script/vxArgument.h"
 #include "script/vxArgumentConverter.h"
 #include "script/vxAssign.h"
@@ -24,20 +25,13 @@ bool isIntegerKind(int kind) {
     return kind <= 1;
 }
 
-constexpr size_t kNumbersPerStop = 5;
-constexpr size_t kLinearLeading = 5;  // x1 y1 x2 y2 spread
-constexpr size_t kRadialLeading = 6;  // cx cy r fx fy spread
-
 // The numbers in front of the colour stops of a gradient list, or 0 when
-// the count fits neither form (at least one stop).
+// the count fits neither form with at least one stop.
 size_t gradientLeading(size_t count) {
-    if (count >= kLinearLeading + kNumbersPerStop && count % kNumbersPerStop == 0) {
-        return kLinearLeading;
-    }
-    if (count >= kRadialLeading + kNumbersPerStop && count % kNumbersPerStop == 1) {
-        return kRadialLeading;
-    }
-    return 0;
+    const short kind = vxPaintOLD::getKindOfCount(static_cast<long>(count));
+    if (kind != vxPaintOLD::kLinearGradient && kind != vxPaintOLD::kRadialGradient) return 0;
+    const long leading = vxPaintOLD::getNumOfLeadingNumbersOf(kind);
+    return static_cast<long>(count) > leading ? static_cast<size_t>(leading) : 0;
 }
 
 }  // namespace
@@ -230,7 +224,7 @@ vxConversion vxArgumentConverter::testGradient(const std::vector<double>& values
     const double min = std::round(descriptor->getMinValue());
     const double max = std::round(descriptor->getMaxValue());
     for (size_t stop = gradientLeading(values.size()); stop < values.size();
-         stop += kNumbersPerStop) {
+         stop += vxPaintOLD::kNumbersPerStop) {
         const vxConversion result = testRange(values, stop, stop + 4, min, max);
         if (result.code != 0) return result;
     }

@@ -6,6 +6,7 @@
 #include "graphics/vxSelectionKnobs.h"
 #include "graphics/vxShadowOLD.h"
 #include "output/vxRasterTestSupport.h"
+#include "platform/vxEncoderSupport.h"
 
 namespace Velarix::test {
 namespace {
@@ -36,9 +37,10 @@ TEST(vxDeviceGDIPlus, FilledRectangleOnEitherRoute) {
         EXPECT_TRUE(isNear(d.at(10, 10), 255, 0, 0, 255));
         EXPECT_TRUE(isNear(d.at(29, 19), 255, 0, 0, 255));
         EXPECT_EQ(d.alpha(9, 15) + d.alpha(30, 15) + d.alpha(20, 20), 0);
-        cairo_surface_t* onWhite = d.device->getPicture(true);
-        EXPECT_TRUE(isNear(pixelAt(onWhite, 0, 0), 255, 255, 255, 255));
-        EXPECT_TRUE(isNear(pixelAt(onWhite, 20, 15), 255, 0, 0, 255));
+        const vxRasterPixels pixels{cairo_image_surface_get_data(d.picture), 40, 30,
+                                    cairo_image_surface_get_stride(d.picture)};
+        EXPECT_EQ(vxPixelOverWhite(pixels, 0, 0), 0xffffffu);
+        EXPECT_EQ(vxPixelOverWhite(pixels, 20, 15), 0xff0000u);
     }
 }
 
