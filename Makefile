@@ -8,7 +8,11 @@ JOBS           ?= $(shell nproc)
 FUZZ_SECONDS   ?= 60
 CMAKE_FLAGS    ?=
 
-export CCACHE_DIR ?= $(CURDIR)/.ccache
+# ccache keeps its cache in its default folder, outside the work tree; paths
+# are taken relative to the tree, so that another clone reuses the objects.
+export CCACHE_BASEDIR  ?= $(CURDIR)
+export CCACHE_NOHASHDIR ?= 1
+
 
 .PHONY: all deps build demo test asan fuzz fuzz-run bench format clean
 

@@ -24,7 +24,8 @@ public:
         FloatArray,
         DoubleArray,
         StringArray,
-        Rect
+        Rect,
+        DateTime
     };
 
     ~vxPrimitive() override;
