@@ -131,8 +131,9 @@ public:
     // The moment of order k about the origin, computed on every call.
     double getMomentOrigin(short k, double origin);
     // The value below which p percent of the valid values lie, interpolated
-    // between neighbours; the first value for p near 0 and 0 below that, the
-    // last value from 100 on. 0 without a valid value.
+    // between neighbours in order. With x = p * n / 100: the last value for
+    // x >= n, the first one for -1 < x < 1, and 0 for x <= -1 or without a
+    // valid value.
     double percentile(double p);
 
 private:
