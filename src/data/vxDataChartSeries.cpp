@@ -11,51 +11,51 @@ vxDataChartSeries::vxDataChartSeries() : vxErrorHolder(L"vxDataChartSeries") {}
 vxDataChartSeries::~vxDataChartSeries() = default;
 
 void vxDataChartSeries::init() {
-    numOfItems = 0;
-    valueSeries.clear();
+    mNumOfItems = 0;
+    mValueSeries.clear();
 }
 
 void vxDataChartSeries::copy(const vxDataChartSeries* from) {
     if (from == this) return;
     init();
     if (!from) return;
-    for (const auto& series : from->valueSeries) {
+    for (const auto& series : from->mValueSeries) {
         vxDataValueSeries* added = addValueSeries();
         if (!added) return;
         added->copy(series.get());
         if (added->isError()) return copyError(added->getError());
     }
-    numOfItems = from->numOfItems;
+    mNumOfItems = from->mNumOfItems;
 }
 
 void vxDataChartSeries::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDumpHeader(out, "vxDataChartSeries");
-    vxDumpLine(out, "long numOfItems:       ", numOfItems);
+    vxDumpLine(out, "long numOfItems:       ", mNumOfItems);
     vxDumpLine(out, "Num of value series:   ", getNumOfValueSeries());
-    for (const auto& series : valueSeries) series->dump(static_cast<short>(depth - 1), out);
+    for (const auto& series : mValueSeries) series->dump(static_cast<short>(depth - 1), out);
     vxDumpEnd(out);
 }
 
 vxDataValueSeries* vxDataChartSeries::addValueSeries() {
     try {
-        valueSeries.push_back(std::make_unique<vxDataValueSeries>());
+        mValueSeries.push_back(std::make_unique<vxDataValueSeries>());
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"addValueSeries"));
         return nullptr;
     }
-    return valueSeries.back().get();
+    return mValueSeries.back().get();
 }
 
 vxDataValueSeries* vxDataChartSeries::getValueSeries(long series) {
     return series >= 0 && series < getNumOfValueSeries()
-               ? valueSeries[static_cast<std::size_t>(series)].get()
+               ? mValueSeries[static_cast<std::size_t>(series)].get()
                : nullptr;
 }
 
 const vxDataValueSeries* vxDataChartSeries::getValueSeries(long series) const {
     return series >= 0 && series < getNumOfValueSeries()
-               ? valueSeries[static_cast<std::size_t>(series)].get()
+               ? mValueSeries[static_cast<std::size_t>(series)].get()
                : nullptr;
 }
 

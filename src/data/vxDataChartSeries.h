@@ -29,13 +29,13 @@ public:
 
     // Appends an empty value series; null on error 5000.
     vxDataValueSeries* addValueSeries();
-    long getNumOfValueSeries() const { return static_cast<long>(valueSeries.size()); }
+    long getNumOfValueSeries() const { return static_cast<long>(mValueSeries.size()); }
     vxDataValueSeries* getValueSeries(long series);
     const vxDataValueSeries* getValueSeries(long series) const;
 
     // The shortest value series, cut down to whole records.
-    long getNumOfItems() const { return numOfItems; }
-    void setNumOfItems(long n) { numOfItems = n; }
+    long getNumOfItems() const { return mNumOfItems; }
+    void setNumOfItems(long n) { mNumOfItems = n; }
 
     long getNumOfValues(long series) const;
     double getValue(long series, long i) const;
@@ -96,8 +96,8 @@ private:
     void takeError(const vxDataValueSeries& series);
     double statistic(long series, double (vxDataValueSeries::*getter)());
 
-    long numOfItems = 0;
-    std::vector<std::unique_ptr<vxDataValueSeries>> valueSeries;
+    long mNumOfItems = 0;
+    std::vector<std::unique_ptr<vxDataValueSeries>> mValueSeries;
 };
 
 }  // namespace Velarix

@@ -20,23 +20,23 @@ vxDataStackedSeries::vxDataStackedSeries() : vxErrorHolder(L"vxDataStackedSeries
 vxDataStackedSeries::~vxDataStackedSeries() = default;
 
 void vxDataStackedSeries::init(long numOfChartSeries, double r, bool split) {
-    numOfPositiveValues = 0;
-    numOfNegativeValues = 0;
-    maxPositiveSeriesIndex = -1;
-    maxNegativeSeriesIndex = -1;
-    doSplit = split;
-    referenceValue = r;
-    positiveStackedSum = 0.0;
-    negativeStackedSum = 0.0;
-    positiveProportionalSum = 0.0;
-    negativeProportionalSum = 0.0;
+    mNumOfPositiveValues = 0;
+    mNumOfNegativeValues = 0;
+    mMaxPositiveSeriesIndex = -1;
+    mMaxNegativeSeriesIndex = -1;
+    mDoSplitStackedValues = split;
+    mReferenceValue = r;
+    mPositiveStackedSum = 0.0;
+    mNegativeStackedSum = 0.0;
+    mPositiveProportionalSum = 0.0;
+    mNegativeProportionalSum = 0.0;
     const std::size_t n = static_cast<std::size_t>(std::max(numOfChartSeries, 0L)) + 1;
     try {
-        stackedValues.assign(n, r);
-        proportionalValues.assign(n, r);
+        mStackedValues.assign(n, r);
+        mProportionalValues.assign(n, r);
     } catch (const std::bad_alloc&) {
-        stackedValues.clear();
-        proportionalValues.clear();
+        mStackedValues.clear();
+        mProportionalValues.clear();
         setError(vxErrRuntime::kOutOfMemory, where(L"init"));
     }
 }
@@ -46,53 +46,53 @@ void vxDataStackedSeries::copy(const vxDataStackedSeries* from) {
     init(0, 0.0, true);
     if (!from) return;
     try {
-        stackedValues = from->stackedValues;
-        proportionalValues = from->proportionalValues;
+        mStackedValues = from->mStackedValues;
+        mProportionalValues = from->mProportionalValues;
     } catch (const std::bad_alloc&) {
         init(0, 0.0, true);
         setError(vxErrRuntime::kOutOfMemory, where(L"copy"));
         return;
     }
-    numOfPositiveValues = from->numOfPositiveValues;
-    numOfNegativeValues = from->numOfNegativeValues;
-    maxPositiveSeriesIndex = from->maxPositiveSeriesIndex;
-    maxNegativeSeriesIndex = from->maxNegativeSeriesIndex;
-    doSplit = from->doSplit;
-    referenceValue = from->referenceValue;
-    positiveStackedSum = from->positiveStackedSum;
-    negativeStackedSum = from->negativeStackedSum;
-    positiveProportionalSum = from->positiveProportionalSum;
-    negativeProportionalSum = from->negativeProportionalSum;
+    mNumOfPositiveValues = from->mNumOfPositiveValues;
+    mNumOfNegativeValues = from->mNumOfNegativeValues;
+    mMaxPositiveSeriesIndex = from->mMaxPositiveSeriesIndex;
+    mMaxNegativeSeriesIndex = from->mMaxNegativeSeriesIndex;
+    mDoSplitStackedValues = from->mDoSplitStackedValues;
+    mReferenceValue = from->mReferenceValue;
+    mPositiveStackedSum = from->mPositiveStackedSum;
+    mNegativeStackedSum = from->mNegativeStackedSum;
+    mPositiveProportionalSum = from->mPositiveProportionalSum;
+    mNegativeProportionalSum = from->mNegativeProportionalSum;
 }
 
 void vxDataStackedSeries::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDumpHeader(out, "vxDataStackedSeries");
-    vxDumpLine(out, "long numOfPositiveValues:         ", numOfPositiveValues);
-    vxDumpLine(out, "long numOfNegativeValues:         ", numOfNegativeValues);
-    vxDumpLine(out, "long maxPositiveSeriesIndex:      ", maxPositiveSeriesIndex);
-    vxDumpLine(out, "long maxNegativeSeriesIndex:      ", maxNegativeSeriesIndex);
-    vxDumpLine(out, "bool doSplitStackedValues:        ", doSplit);
-    vxDumpLine(out, "double referenceValue:            ", referenceValue);
-    vxDumpLine(out, "double positiveStackedSum:        ", positiveStackedSum);
-    vxDumpLine(out, "double negativeStackedSum:        ", negativeStackedSum);
-    vxDumpLine(out, "double positiveProportionalSum:   ", positiveProportionalSum);
-    vxDumpLine(out, "double negativeProportionalSum:   ", negativeProportionalSum);
-    vxDumpLine(out, "vector<double> stackedValues:      ", vxDataDumpText(stackedValues));
-    vxDumpLine(out, "vector<double> proportionalValues: ", vxDataDumpText(proportionalValues));
+    vxDumpLine(out, "long numOfPositiveValues:          ", mNumOfPositiveValues);
+    vxDumpLine(out, "long numOfNegativeValues:          ", mNumOfNegativeValues);
+    vxDumpLine(out, "long maxPositiveSeriesIndex:       ", mMaxPositiveSeriesIndex);
+    vxDumpLine(out, "long maxNegativeSeriesIndex:       ", mMaxNegativeSeriesIndex);
+    vxDumpLine(out, "bool doSplitStackedValues:         ", mDoSplitStackedValues);
+    vxDumpLine(out, "double referenceValue:             ", mReferenceValue);
+    vxDumpLine(out, "double positiveStackedSum:         ", mPositiveStackedSum);
+    vxDumpLine(out, "double negativeStackedSum:         ", mNegativeStackedSum);
+    vxDumpLine(out, "double positiveProportionalSum:    ", mPositiveProportionalSum);
+    vxDumpLine(out, "double negativeProportionalSum:    ", mNegativeProportionalSum);
+    vxDumpLine(out, "vector<double> stackedValues:      ", vxDataDumpText(mStackedValues));
+    vxDumpLine(out, "vector<double> proportionalValues: ", vxDataDumpText(mProportionalValues));
     vxDumpEnd(out);
 }
 
 long vxDataStackedSeries::getNumOfChartSeries() const {
-    return stackedValues.empty() ? 0 : static_cast<long>(stackedValues.size()) - 1;
+    return mStackedValues.empty() ? 0 : static_cast<long>(mStackedValues.size()) - 1;
 }
 
 double vxDataStackedSeries::getStackedValue(long index) const {
-    return isIndex(index) ? stackedValues[static_cast<std::size_t>(index) + 1] : 0.0;
+    return isIndex(index) ? mStackedValues[static_cast<std::size_t>(index) + 1] : 0.0;
 }
 
 double vxDataStackedSeries::getProportionalValue(long index) const {
-    return isIndex(index) ? proportionalValues[static_cast<std::size_t>(index) + 1] : 0.0;
+    return isIndex(index) ? mProportionalValues[static_cast<std::size_t>(index) + 1] : 0.0;
 }
 
 void vxDataStackedSeries::add(long index, double value) {
@@ -101,10 +101,10 @@ void vxDataStackedSeries::add(long index, double value) {
         return;
     }
     const std::size_t i = static_cast<std::size_t>(index);
-    const double base = doSplit ? splitBase(index, value) : stackedValues[i];
-    stackedValues[i + 1] = base + value;
-    if (value > 0.0) ++numOfPositiveValues;
-    if (value < 0.0) ++numOfNegativeValues;
+    const double base = mDoSplitStackedValues ? splitBase(index, value) : mStackedValues[i];
+    mStackedValues[i + 1] = base + value;
+    if (value > 0.0) ++mNumOfPositiveValues;
+    if (value < 0.0) ++mNumOfNegativeValues;
 }
 
 void vxDataStackedSeries::skip(long index) {
@@ -113,58 +113,59 @@ void vxDataStackedSeries::skip(long index) {
         return;
     }
     const std::size_t i = static_cast<std::size_t>(index);
-    stackedValues[i + 1] = doSplit ? referenceValue : stackedValues[i];
+    mStackedValues[i + 1] = mDoSplitStackedValues ? mReferenceValue : mStackedValues[i];
 }
 
 double vxDataStackedSeries::splitBase(long index, double value) const {
     const bool below = value < 0.0;
     for (long k = index; k >= 1; --k) {
-        double element = stackedValues[static_cast<std::size_t>(k)];
-        if (below ? element < referenceValue : element > referenceValue) return element;
+        double element = mStackedValues[static_cast<std::size_t>(k)];
+        if (below ? element < mReferenceValue : element > mReferenceValue) return element;
     }
-    return referenceValue;
+    return mReferenceValue;
 }
 
 template <class Test>
 long vxDataStackedSeries::lastElementWhere(Test test) const {
     for (long k = getNumOfChartSeries(); k >= 1; --k) {
-        if (test(stackedValues[static_cast<std::size_t>(k)])) return k;
+        if (test(mStackedValues[static_cast<std::size_t>(k)])) return k;
     }
     return 0;
 }
 
 void vxDataStackedSeries::setUpExtremes() {
-    if (stackedValues.empty()) return;
-    const auto [lowest, highest] = std::minmax_element(stackedValues.begin(), stackedValues.end());
-    positiveStackedSum = *highest;
-    negativeStackedSum = *lowest;
-    const double r = referenceValue;
-    const double top = positiveStackedSum;
-    const double bottom = negativeStackedSum;
-    if (doSplit) {
-        maxPositiveSeriesIndex = lastElementWhere([r](double e) { return e > r; }) - 1;
-        maxNegativeSeriesIndex = lastElementWhere([r](double e) { return e < r; }) - 1;
+    if (mStackedValues.empty()) return;
+    const auto [lowest, highest] =
+        std::minmax_element(mStackedValues.begin(), mStackedValues.end());
+    mPositiveStackedSum = *highest;
+    mNegativeStackedSum = *lowest;
+    const double r = mReferenceValue;
+    const double top = mPositiveStackedSum;
+    const double bottom = mNegativeStackedSum;
+    if (mDoSplitStackedValues) {
+        mMaxPositiveSeriesIndex = lastElementWhere([r](double e) { return e > r; }) - 1;
+        mMaxNegativeSeriesIndex = lastElementWhere([r](double e) { return e < r; }) - 1;
     } else {
-        maxPositiveSeriesIndex =
+        mMaxPositiveSeriesIndex =
             lastElementWhere([top](double e) { return std::fabs(e - top) <= kNearZero; }) - 1;
-        maxNegativeSeriesIndex =
+        mMaxNegativeSeriesIndex =
             lastElementWhere([bottom](double e) { return std::fabs(e - bottom) <= kNearZero; }) - 1;
     }
 }
 
 void vxDataStackedSeries::setUpProportionalValues() {
-    const double scale = std::max(positiveStackedSum, -negativeStackedSum);
+    const double scale = std::max(mPositiveStackedSum, -mNegativeStackedSum);
     if (scale < kNearZero) {
-        std::fill(proportionalValues.begin(), proportionalValues.end(), 0.0);
-        positiveProportionalSum = 0.0;
-        negativeProportionalSum = 0.0;
+        std::fill(mProportionalValues.begin(), mProportionalValues.end(), 0.0);
+        mPositiveProportionalSum = 0.0;
+        mNegativeProportionalSum = 0.0;
         return;
     }
-    for (std::size_t i = 0; i < stackedValues.size(); ++i) {
-        proportionalValues[i] = stackedValues[i] / scale;
+    for (std::size_t i = 0; i < mStackedValues.size(); ++i) {
+        mProportionalValues[i] = mStackedValues[i] / scale;
     }
-    positiveProportionalSum = positiveStackedSum * (1.0 / scale);
-    negativeProportionalSum = negativeStackedSum * (1.0 / scale);
+    mPositiveProportionalSum = mPositiveStackedSum * (1.0 / scale);
+    mNegativeProportionalSum = mNegativeStackedSum * (1.0 / scale);
 }
 
 }  // namespace Velarix

@@ -46,19 +46,19 @@ public:
     // The top of chart series `index`; 0 out of range.
     double getStackedValue(long index) const;
     double getProportionalValue(long index) const;
-    const std::vector<double>& getStackedValues() const { return stackedValues; }
-    const std::vector<double>& getProportionalValues() const { return proportionalValues; }
+    const std::vector<double>& getStackedValues() const { return mStackedValues; }
+    const std::vector<double>& getProportionalValues() const { return mProportionalValues; }
 
-    long getNumOfPositiveValues() const { return numOfPositiveValues; }        // values > 0
-    long getNumOfNegativeValues() const { return numOfNegativeValues; }        // values < 0
-    long getMaxPositiveSeriesIndex() const { return maxPositiveSeriesIndex; }  // -1: none
-    long getMaxNegativeSeriesIndex() const { return maxNegativeSeriesIndex; }
-    bool doSplitStackedValues() const { return doSplit; }
-    double getReferenceValue() const { return referenceValue; }
-    double getPositiveStackedSum() const { return positiveStackedSum; }
-    double getNegativeStackedSum() const { return negativeStackedSum; }
-    double getPositiveProportionalSum() const { return positiveProportionalSum; }
-    double getNegativeProportionalSum() const { return negativeProportionalSum; }
+    long getNumOfPositiveValues() const { return mNumOfPositiveValues; }        // values > 0
+    long getNumOfNegativeValues() const { return mNumOfNegativeValues; }        // values < 0
+    long getMaxPositiveSeriesIndex() const { return mMaxPositiveSeriesIndex; }  // -1: none
+    long getMaxNegativeSeriesIndex() const { return mMaxNegativeSeriesIndex; }
+    bool doSplitStackedValues() const { return mDoSplitStackedValues; }
+    double getReferenceValue() const { return mReferenceValue; }
+    double getPositiveStackedSum() const { return mPositiveStackedSum; }
+    double getNegativeStackedSum() const { return mNegativeStackedSum; }
+    double getPositiveProportionalSum() const { return mPositiveProportionalSum; }
+    double getNegativeProportionalSum() const { return mNegativeProportionalSum; }
 
 private:
     bool isIndex(long index) const { return index >= 0 && index < getNumOfChartSeries(); }
@@ -67,18 +67,18 @@ private:
     template <class Test>
     long lastElementWhere(Test test) const;
 
-    long numOfPositiveValues = 0;
-    long numOfNegativeValues = 0;
-    long maxPositiveSeriesIndex = -1;
-    long maxNegativeSeriesIndex = -1;
-    bool doSplit = true;
-    double referenceValue = 0.0;
-    double positiveStackedSum = 0.0;
-    double negativeStackedSum = 0.0;
-    double positiveProportionalSum = 0.0;
-    double negativeProportionalSum = 0.0;
-    std::vector<double> stackedValues;
-    std::vector<double> proportionalValues;
+    long mNumOfPositiveValues = 0;
+    long mNumOfNegativeValues = 0;
+    long mMaxPositiveSeriesIndex = -1;
+    long mMaxNegativeSeriesIndex = -1;
+    bool mDoSplitStackedValues = true;
+    double mReferenceValue = 0.0;
+    double mPositiveStackedSum = 0.0;
+    double mNegativeStackedSum = 0.0;
+    double mPositiveProportionalSum = 0.0;
+    double mNegativeProportionalSum = 0.0;
+    std::vector<double> mStackedValues;
+    std::vector<double> mProportionalValues;
 };
 
 }  // namespace Velarix
