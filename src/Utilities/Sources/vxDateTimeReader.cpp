@@ -1,6 +1,7 @@
 // The date test: one pass over the characters of a date or time text, then
 // the checks of the fields it found. The pass allocates nothing, because the
 // data input runs it once for every token of a date series.
+#include <climits>
 #include <string>
 
 #include "Utilities/Sources/vxDateFormatIDs.h"
@@ -74,21 +75,20 @@ struct Scan {
         return acceptLetter(lower(c));
     }
 
-    // A run of digits, all of one field.
-    bool acceptDigits(const wchar_t* begin, const wchar_t* end) {
+    // A run of digits, all of one field; `p` moves past it.
+    bool acceptDigits(const wchar_t*& p, const wchar_t* end) {
         if (timeClosed || halfSeen()) return false;
-        current.digits = short(current.digits + (end - begin));
-        if (inMilliseconds) {
-            // Only the first three digits count.
-            if (end - begin > 3) end = begin + 3;
-        } else if (current.digits > 4 && timeFields < 2) {
-            // The date fields, the hour and the minute have at most four digits.
-            return false;
+        // Of the milliseconds only the first three digits count; the date
+        // fields, the hour and the minute have at most four.
+        const short limit = inMilliseconds ? 3 : timeFields < 2 ? 4 : SHRT_MAX;
+        long v = current.value;
+        short n = current.digits;
+        for (; p < end && isDigit(*p); ++p) {
+            if (++n <= limit && v < kSaturated) v = v * 10 + (*p - L'0');
         }
-        for (; begin < end && current.value < kSaturated; ++begin) {
-            current.value = current.value * 10 + (*begin - L'0');
-        }
-        return true;
+        current.value = v;
+        current.digits = n;
+        return inMilliseconds || n <= limit;
     }
 
     bool acceptDateSeparator(wchar_t c) {
@@ -317,9 +317,7 @@ bool scanText(const std::wstring& text, Scan& scan) {
     const wchar_t* const end = p + text.size();
     while (p < end) {
         if (isDigit(*p)) {
-            const wchar_t* run = p;
-            while (p < end && isDigit(*p)) ++p;
-            if (!scan.acceptDigits(run, p)) return false;
+            if (!scan.acceptDigits(p, end)) return false;
         } else if (!scan.accept(*p++)) {
             return false;
         }
