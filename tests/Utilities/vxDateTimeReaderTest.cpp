@@ -89,6 +89,9 @@ TEST_F(vxDateTimeReaderTest, Times) {
     for (const TimeCase& c : cases) {
         expectReads({c.text, L"???", hms(c.hour, c.minute, c.second, c.millisecond)});
     }
+    // Seconds and milliseconds take runs of digits longer than a short counts.
+    expectReads({(L"1:2:" + std::wstring(70000, L'0') + L"5").c_str(), L"???", hms(1, 2, 5)});
+    expectReads({(L"1:2:3." + std::wstring(70000, L'9')).c_str(), L"???", hms(1, 2, 3, 999)});
 }
 
 TEST_F(vxDateTimeReaderTest, DatesWithTimes) {

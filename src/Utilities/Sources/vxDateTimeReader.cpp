@@ -1,7 +1,6 @@
 // The date test: one pass over the characters of a date or time text, then
 // the checks of the fields it found. The pass allocates nothing, because the
 // data input runs it once for every token of a date series.
-#include <climits>
 #include <string>
 
 #include "Utilities/Sources/vxDateFormatIDs.h"
@@ -14,7 +13,10 @@ namespace {
 
 using Components = vxDateTime::Components;
 
+// A field's value stops growing here, its count of digits at kMaxDigits:
+// either is far beyond any range the fields are checked against.
 constexpr long kSaturated = 100000;
+constexpr short kMaxDigits = 99;
 
 bool isDigit(wchar_t c) {
     return c >= L'0' && c <= L'9';
@@ -78,17 +80,17 @@ struct Scan {
     // A run of digits, all of one field; `p` moves past it.
     bool acceptDigits(const wchar_t*& p, const wchar_t* end) {
         if (timeClosed || halfSeen()) return false;
-        // Of the milliseconds only the first three digits count; the date
-        // fields, the hour and the minute have at most four.
-        const short limit = inMilliseconds ? 3 : timeFields < 2 ? 4 : SHRT_MAX;
         long v = current.value;
         short n = current.digits;
         for (; p < end && isDigit(*p); ++p) {
-            if (++n <= limit && v < kSaturated) v = v * 10 + (*p - L'0');
+            // Of the milliseconds only the first three digits count.
+            if (inMilliseconds ? n < 3 : v < kSaturated) v = v * 10 + (*p - L'0');
+            if (n < kMaxDigits) ++n;
         }
         current.value = v;
         current.digits = n;
-        return inMilliseconds || n <= limit;
+        // The date fields, the hour and the minute have at most four digits.
+        return inMilliseconds || timeFields == 2 || n <= 4;
     }
 
     bool acceptDateSeparator(wchar_t c) {
