@@ -210,6 +210,7 @@ void vxDateTime::setValue(double v) {
 
 void vxDateTime::setComponents(const Components& c) {
     components = c;
+    components[kSpare] = 0;
     hasComponents = true;
     hasValue = false;
 }
