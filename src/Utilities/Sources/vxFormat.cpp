@@ -81,7 +81,14 @@ void vxFormat::appendPlain(double value, std::wstring& out) {
     char chars[32];
     const auto result =
         std::to_chars(chars, chars + sizeof chars, value + 0.0, std::chars_format::general, 9);
-    out.append(chars, result.ptr);
+    appendChars(chars, result.ptr, out);
+}
+
+// Widens in place: appending the range as such would build a temporary text.
+void vxFormat::appendChars(const char* first, const char* last, std::wstring& out) {
+    const size_t at = out.size();
+    out.resize(at + size_t(last - first));
+    for (wchar_t* to = out.data() + at; first != last; ++first, ++to) *to = wchar_t(*first);
 }
 
 void vxFormat::dump(short depth, std::ostream& out) const {

@@ -51,6 +51,8 @@ public:
                             std::wstring& postfix);
     // The value with 9 significant digits, as "u" prints it.
     static void appendPlain(double value, std::wstring& out);
+    // Appends the characters of a number, which are ASCII.
+    static void appendChars(const char* first, const char* last, std::wstring& out);
 
 protected:
     // `formatCode` is 2001 or 2002; `specifier` is the class's default.

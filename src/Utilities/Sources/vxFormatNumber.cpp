@@ -55,10 +55,6 @@ short parseLead(std::wstring_view lead, vxNumberSpecifier& out) {
     }
 }
 
-void appendChars(std::wstring& out, const char* first, const char* last) {
-    out.append(first, last);
-}
-
 // The sign step of the "u", "i" and "f" routes. A text without a minus is
 // that of a positive value or of one that prints as zero: both get a "+".
 void showSign(std::wstring& out, size_t start) {
@@ -185,7 +181,7 @@ void vxFormatNumber::appendWhole(double value, short precision, std::wstring& ou
     char chars[kMaxChars];
     const auto result =
         std::to_chars(chars, chars + kMaxChars, rounded, std::chars_format::fixed, 0);
-    appendChars(out, chars, result.ptr);
+    appendChars(chars, result.ptr, out);
 }
 
 void vxFormatNumber::appendFixed(double value, short precision, std::wstring& out) const {
@@ -198,7 +194,7 @@ void vxFormatNumber::appendFixed(double value, short precision, std::wstring& ou
                              std::string_view::npos) {
         ++first;
     }
-    appendChars(out, first, result.ptr);
+    appendChars(first, result.ptr, out);
     if (precision == 0 && std::isfinite(value)) out += L'.';
 }
 
@@ -270,8 +266,13 @@ void vxFormatNumber::setDecimalPointIn(std::wstring& out, size_t start) const {
 void vxFormatNumber::insertThousandsSeps(std::wstring& out, size_t start) const {
     if (!thousandsSep || thousandsGroupSize < 1) return;
     if (out.find_first_of(L"eEgGhH", start) != std::wstring::npos) return;
-    size_t end = out.rfind(decimalPoint);
-    if (end == std::wstring::npos || end < start) end = out.size();
+    size_t end = out.size();
+    for (size_t i = out.size(); i > start; --i) {
+        if (out[i - 1] == decimalPoint) {
+            end = i - 1;
+            break;
+        }
+    }
     const bool minus = out[start] == L'-';
     for (size_t at = end; at > start + size_t(thousandsGroupSize);) {
         at -= size_t(thousandsGroupSize);
