@@ -137,6 +137,7 @@ public:
 private:
     void updateValue();
     void updateComponents();
+    short getComponent(Component index);
 
     Components components{};
     double value = 0.0;
