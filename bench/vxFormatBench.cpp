@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "Utilities/Sources/vxFormatDateTime.h"
 #include "Utilities/Sources/vxFormatNumber.h"
 
 namespace {
@@ -64,8 +65,31 @@ void BM_NumberLabels(benchmark::State& state) {
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * values.size()));
 }
 
+// Dates with times from 2004 on, a minute and a half apart.
+void BM_DatesWithTimes(benchmark::State& state) {
+    std::vector<double> values(1'000'000);
+    for (size_t i = 0; i < values.size(); ++i) {
+        const long minutes = long(i) * 3 / 2;
+        values[i] = 2453006 + minutes / 1440 + double(minutes % 1440) * 0.0006;
+    }
+    Velarix::vxFormatDateTime date(nullptr);
+    if (date.setFormat(date.getDefaultFormat(values)) != 0) state.SkipWithError("bad format");
+    std::wstring file;
+    file.reserve(values.size() * 24);
+    for (auto _ : state) {
+        file.clear();
+        for (double v : values) {
+            date.appendString(v, file);
+            file += L'\t';
+        }
+        benchmark::DoNotOptimize(file.data());
+    }
+    state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * values.size()));
+}
+
 }  // namespace
 
+BENCHMARK(BM_DatesWithTimes)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_NumbersPlain)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_NumbersFixedWithSeparators)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_WholeNumbersWithSeparators)->Unit(benchmark::kMillisecond);
