@@ -231,18 +231,17 @@ void vxFormatNumber::appendExponent(double value, const vxNumberSpecifier& spec,
     const size_t start = out.size();
     // A mantissa that rounds up to 10 (1000 for "h") moves into the exponent.
     const short step = engineering ? 3 : 1;
-    if (appendMantissa(m, p, step, out) > step) {
+    if (appendMantissa(m, p, out) > step) {
         out.resize(start);
         x += step;
-        appendMantissa(m / kPowersOfTen[step], engineering ? spec.precision : p, step, out);
+        appendMantissa(m / kPowersOfTen[step], engineering ? spec.precision : p, out);
     }
     appendExponentText(x, type == L'E' || type == L'G' || type == L'H', out);
     if (spec.showSign && isDigit(out[start])) out.insert(start, 1, L'+');
 }
 
 // Returns the number of digits before the point.
-short vxFormatNumber::appendMantissa(double mantissa, short precision, short intDigits,
-                                     std::wstring& out) const {
+short vxFormatNumber::appendMantissa(double mantissa, short precision, std::wstring& out) const {
     const size_t start = out.size();
     if (precision < 1) {
         appendWhole(mantissa, short(-precision), out);

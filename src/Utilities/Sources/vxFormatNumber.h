@@ -106,8 +106,7 @@ private:
     void appendWhole(double value, short precision, std::wstring& out) const;
     void appendFixed(double value, short precision, std::wstring& out) const;
     void appendExponent(double value, const vxNumberSpecifier& spec, std::wstring& out) const;
-    short appendMantissa(double mantissa, short precision, short intDigits,
-                         std::wstring& out) const;
+    short appendMantissa(double mantissa, short precision, std::wstring& out) const;
     // The steps after printing, on the text from `start` on.
     void setDecimalPointIn(std::wstring& out, size_t start) const;
     void insertThousandsSeps(std::wstring& out, size_t start) const;
