@@ -7,6 +7,8 @@ examples=$(realpath "$2")
 out=$3
 mkdir -p "$out"
 out=$(realpath "$out")
+# Data files the scripts read lie beside them.
+cp "$examples"/data/* "$out"/ 2>/dev/null || true
 status=0
 for script in "$examples"/*.vxs; do
     name=$(basename "$script" .vxs)

@@ -89,11 +89,13 @@ void vxDataValueSeries::countDateTimeComponents() {
     mNumOfDateComponents = 0;
     mNumOfTimeComponents = 0;
     for (double& v : mValues) {
-        if (!isValidValue(v)) continue;
         // The reader negates a value written with a date and a time, so
-        // that a time of 00:00 is still known to have been written.
-        bool hasBoth = v <= 0.0;
+        // that a time of 00:00 is still known to have been written. The
+        // mark goes before the limits are looked at: a date limit of the
+        // script is meant for the date, not for its marked form.
+        const bool hasBoth = v <= 0.0 && v > kInvalidValue;
         if (hasBoth) v = std::fabs(v);
+        if (!isValidValue(v)) continue;
         if (hasBoth || hasDatePart(v)) ++mNumOfDateComponents;
         if (hasBoth || hasTimePart(v)) ++mNumOfTimeComponents;
     }

@@ -49,8 +49,9 @@ public:
     void dump(short depth, std::ostream& out) const;
 
     // Takes the values over and applies the option. In a date-time series
-    // each valid value <= 0, the mark of a value written with a date and a
-    // time, becomes positive; the valid values are then counted: those with
+    // each value <= 0 but the missing value, the mark of a value written
+    // with a date and a time, becomes positive; the valid values are then
+    // counted: those with
     // a date or the mark as date components, those with a time or the mark
     // as time components. Other series leave both counts at -1.
     void fill(std::vector<double> values, short dataType, double lowerLimit, double upperLimit,

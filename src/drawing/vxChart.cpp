@@ -1,5 +1,8 @@
 #include "drawing/vxChart.h"
 
+#include "charts/vxBaseChartParameters.h"
+#include "charts/vxChartTypeTable.h"
+#include "data/vxDataManager.h"
 #include "drawing/vxAdditionBuilder.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
@@ -22,6 +25,8 @@ void vxChart::assign(vxAssign& a) {
             return setChart(a);
         case kGroupChartOptions:
             return assignChartOptions(a);
+        case kGroupData:
+            return assignData(a);
         default:
             return;
     }
@@ -29,6 +34,42 @@ void vxChart::assign(vxAssign& a) {
 
 void vxChart::setChart(vxAssign& a) {
     chartFunction = a.getFunction();
+    if (!create(parameters, L"setChart")) return;
+    vxSetUpChartParameters(chartFunction, a, *parameters);
+}
+
+void vxChart::assignData(vxAssign& a) {
+    if (!dataManager && !create(dataManager, L"createDataManager", getOwnerSettings())) return;
+    dataManager->assign(a);
+    if (dataManager->isError()) copyError(dataManager->getError());
+}
+
+void vxChart::setUp(const float bounds[4]) {
+    if (!parameters) {
+        if (hasChartCalls()) setError(vxErrLayout::kNoChartFunction, where(L"setUp"));
+        return;
+    }
+    setUpSeries();
+}
+
+// 1. The data manager reads the series for the chart type.
+// 2. Stacks, then the positions of the items.
+// 3. ChartDataWrite writes what was read.
+void vxChart::setUpSeries() {
+    if (!dataManager && !create(dataManager, L"createDataManager", getOwnerSettings())) return;
+    dataManager->setUp(*parameters);
+    dataManager->setUpChartSeries(*parameters);
+    if (!dataManager->isError()) dataManager->setUpStackedValues(*parameters);
+    if (!dataManager->isError()) dataManager->insertIntervalValues(*parameters);
+    if (!dataManager->isError()) dataManager->writeData();
+    if (dataManager->isError()) copyError(dataManager->getError());
+}
+
+bool vxChart::hasChartCalls() const {
+    for (const auto& [group, count] : callsByGroup) {
+        if (group != kGroupPrimitives && count > 0) return true;
+    }
+    return false;
 }
 
 void vxChart::assignChartOptions(vxAssign&) {
@@ -80,6 +121,8 @@ void vxChart::dump(short depth, std::ostream& out) const {
     vxDumpLine(out, "bool hasFixedPlotArea: ", fixedPlotArea);
     vxDumpLine(out, "long chartFunction:  ", chartFunction);
     vxDumpEnd(out);
+    if (parameters) parameters->dump(static_cast<short>(depth - 1), out);
+    if (dataManager) dataManager->dump(static_cast<short>(depth - 1), out);
 }
 
 }  // namespace Velarix

@@ -40,17 +40,17 @@ int sequenceLength(unsigned char lead, uint32_t& bits) {
     return 0;
 }
 
-}  // namespace
-
-std::wstring vxFromUtf8(std::string_view bytes) {
+// Decodes UTF-8; a malformed sequence becomes U+FFFD, or ends the decoding
+// with false when `strict`.
+bool decodeUtf8(std::string_view bytes, std::wstring& out, bool strict) {
     static constexpr uint32_t kMinimum[5] = {0, 0, 0x80, 0x800, 0x10000};
-    std::wstring out;
-    out.reserve(bytes.size());
+    out.reserve(out.size() + bytes.size());
     size_t i = 0;
     while (i < bytes.size()) {
         uint32_t cp = 0;
         int len = sequenceLength(static_cast<unsigned char>(bytes[i]), cp);
         if (len == 0) {
+            if (strict) return false;
             out.push_back(kReplacement);
             ++i;
             continue;
@@ -62,6 +62,7 @@ std::wstring vxFromUtf8(std::string_view bytes) {
             cp = (cp << 6) | (c & 0x3F);
         }
         if (k < len || cp < kMinimum[len] || cp > 0x10FFFF || (cp >= 0xD800 && cp < 0xE000)) {
+            if (strict) return false;
             out.push_back(kReplacement);
             i += (k < len) ? k : len;
             continue;
@@ -69,6 +70,40 @@ std::wstring vxFromUtf8(std::string_view bytes) {
         appendCodePoint(out, cp);
         i += len;
     }
+    return true;
+}
+
+std::wstring fromUtf16(std::string_view bytes, bool bigEndian) {
+    std::wstring out;
+    out.reserve(bytes.size() / 2);
+    for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const unsigned a = static_cast<unsigned char>(bytes[i]);
+        const unsigned b = static_cast<unsigned char>(bytes[i + 1]);
+        out.push_back(static_cast<wchar_t>(bigEndian ? (a << 8) | b : (b << 8) | a));
+    }
+    return out;
+}
+
+bool startsWith(std::string_view bytes, std::string_view mark) {
+    return bytes.substr(0, mark.size()) == mark;
+}
+
+}  // namespace
+
+std::wstring vxFromUtf8(std::string_view bytes) {
+    std::wstring out;
+    decodeUtf8(bytes, out, false);
+    return out;
+}
+
+std::wstring vxDecodeText(std::string_view bytes) {
+    if (startsWith(bytes, "\xEF\xBB\xBF")) return vxFromUtf8(bytes.substr(3));
+    if (startsWith(bytes, "\xFF\xFE")) return fromUtf16(bytes.substr(2), false);
+    if (startsWith(bytes, "\xFE\xFF")) return fromUtf16(bytes.substr(2), true);
+    std::wstring out;
+    if (decodeUtf8(bytes, out, true)) return out;
+    out.assign(bytes.size(), L'\0');
+    for (size_t i = 0; i < bytes.size(); ++i) out[i] = static_cast<unsigned char>(bytes[i]);
     return out;
 }
 

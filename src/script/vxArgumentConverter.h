@@ -64,6 +64,7 @@ private:
     vxConversion convertSource(const std::wstring& text);
     vxConversion convertOutputPath(const std::wstring& text);
     std::wstring basePath() const;
+    std::wstring dateArgumentOrder() const;
 
     vxAssign& assign;
     const vxUserSettings* settings;

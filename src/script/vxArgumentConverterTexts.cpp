@@ -1,11 +1,12 @@
 // String, date, chart value, font and file arguments.
 #include <algorithm>
 
-#include "Utilities/Sources/vxDateText.h"
+#include "Utilities/Sources/vxDateTime.h"
 #include "Utilities/Sources/vxDouble.h"
 #include "Utilities/Sources/vxLong.h"
 #include "Utilities/Sources/vxStringOLD.h"
 #include "Utilities/Sources/vxTokenizer.h"
+#include "data/vxDataRawInput.h"
 #include "platform/vxClipboard.h"
 #include "platform/vxFileSystem.h"
 #include "platform/vxResources.h"
@@ -17,6 +18,7 @@
 #include "script/vxScriptChars.h"
 #include "settings/vxErrorCodes.h"
 #include "settings/vxFontSettings.h"
+#include "settings/vxFormatSettings.h"
 #include "settings/vxSystemSettings.h"
 #include "settings/vxUserSettings.h"
 
@@ -74,10 +76,28 @@ bool isNumberText(const std::wstring& text) {
     return vxDouble::testNumber(number) == 0;
 }
 
+// The date form of a chart value, in the order the values before it found.
+bool isDateToken(const std::wstring& text, std::wstring& order) {
+    vxDateTimeSpecs specs;
+    return vxDateTime::verify(text, order, specs) == kNoError;
+}
+
 }  // namespace
 
 std::wstring vxArgumentConverter::basePath() const {
     return settings ? settings->getAppPath() : std::wstring();
+}
+
+// The order of a date argument: the one the format settings hold, else the
+// system's, month first unless the system puts the year first.
+std::wstring vxArgumentConverter::dateArgumentOrder() const {
+    const vxFormatSettings* format = settings ? settings->getFormatSettings() : nullptr;
+    if (format && format->getDateOrderID() > 0) {
+        return vxDataRawInput::dateOrderText(format->getDateOrderID());
+    }
+    const vxSystemSettings* system = settings ? settings->getSystemSettings() : nullptr;
+    const std::wstring systemOrder = system ? system->getDateOrder() : L"MDY";
+    return !systemOrder.empty() && systemOrder[0] == L'Y' ? L"YMD" : L"MDY";
 }
 
 vxConversion vxArgumentConverter::convertString(const std::wstring& text) {
@@ -119,8 +139,13 @@ vxConversion vxArgumentConverter::convertDate(const std::wstring& text) {
     for (wchar_t& c : value) {
         if (c == L'\'' || c == 0x2019) c = L':';
     }
-    if (!isEndOfDay(value)) return {kSyntax, -1};
-    assign.addDouble(1.0);
+    double date = 1.0;
+    if (!isEndOfDay(value)) {
+        std::wstring order = dateArgumentOrder();
+        vxDateTimeSpecs specs;
+        if (vxDateTime::parseValue(value, order, specs, date) != kNoError) return {kSyntax, -1};
+    }
+    assign.addDouble(date);
     assign.setNote(index, text);
     return {};
 }
@@ -133,6 +158,7 @@ vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
         return {};
     }
     enum class Kind { kUnknown, kNumber, kDate } kind = Kind::kUnknown;
+    std::wstring order = L"???";
     const bool protectBlanks = hasQuote(text);
     vxTokenizer tokens(text, L" \t\n\r", true);
     std::wstring token;
@@ -151,14 +177,14 @@ vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
             if (kind == Kind::kUnknown) {
                 if (isNumber) {
                     kind = Kind::kNumber;
-                } else if (vxIsDateText(value)) {
+                } else if (isDateToken(value, order)) {
                     kind = Kind::kDate;
                 } else {
                     return {kSyntax, element};
                 }
             } else if (kind == Kind::kNumber && !isNumber) {
                 return {kValue, element};
-            } else if (kind == Kind::kDate && !vxIsDateText(value)) {
+            } else if (kind == Kind::kDate && !isDateToken(value, order)) {
                 return {kSyntax, element};
             }
         }

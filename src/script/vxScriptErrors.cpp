@@ -98,6 +98,32 @@ void vxScript::elementSpan(long argumentIndex, long element, long& begin, long& 
     }
 }
 
+namespace {
+
+// Characters of the script kept on each side of the marked text, and at
+// either end of a marked text too long to show whole.
+constexpr size_t kErrPartWindow = 80;
+constexpr wchar_t kEllipsis[] = L"\u2026";
+
+std::wstring headOf(const std::wstring& text) {
+    if (text.size() <= kErrPartWindow) return text;
+    return text.substr(0, kErrPartWindow) + kEllipsis;
+}
+
+std::wstring tailOf(const std::wstring& text) {
+    if (text.size() <= kErrPartWindow) return text;
+    return kEllipsis + text.substr(text.size() - kErrPartWindow);
+}
+
+std::wstring cutMiddle(const std::wstring& text) {
+    if (text.size() <= 2 * kErrPartWindow) return text;
+    return text.substr(0, kErrPartWindow) + kEllipsis + text.substr(text.size() - kErrPartWindow);
+}
+
+}  // namespace
+
+// The line or lines of the marked text, with the marks around it. A line of
+// a thousand chart values is cut to a window around the mark.
 std::wstring vxScript::errScriptPart(long begin, long end) const {
     if (srcString.empty()) return L"";
     const long last = static_cast<long>(srcString.size()) - 1;
@@ -109,16 +135,16 @@ std::wstring vxScript::errScriptPart(long begin, long end) const {
     long lineEnd = end;  // exclusive
     while (lineEnd <= last && !isLineEnd(srcString[static_cast<size_t>(lineEnd)])) ++lineEnd;
 
-    std::wstring span =
-        srcString.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
-    std::replace(span.begin(), span.end(), kLineEnd, L' ');
+    auto slice = [&](long from, long to) {
+        std::wstring part = srcString.substr(static_cast<size_t>(from),
+                                             static_cast<size_t>(std::max(0L, to - from)));
+        std::replace(part.begin(), part.end(), kLineEnd, L' ');
+        return part;
+    };
     std::wstring prefix = errorSettings ? errorSettings->getErrPartPrefix() : L"--->";
     std::wstring postfix = errorSettings ? errorSettings->getErrPartPostfix() : L"<---";
-    std::wstring text =
-        srcString.substr(static_cast<size_t>(lineStart), static_cast<size_t>(begin - lineStart)) +
-        prefix + span + postfix +
-        srcString.substr(static_cast<size_t>(end),
-                         static_cast<size_t>(std::max(0L, lineEnd - end)));
+    std::wstring text = tailOf(slice(lineStart, begin)) + prefix + cutMiddle(slice(begin, end)) +
+                        postfix + headOf(slice(end, lineEnd));
 
     const long limit = errorSettings ? errorSettings->getMaxCharsOfErrScriptPart() : -1;
     if (limit < 0 || static_cast<long>(text.size()) <= limit) return text;

@@ -66,11 +66,13 @@ TEST(vxDataValueSeriesTest, DateTimeValuesLoseTheirMarkAndAreCounted) {
     EXPECT_EQ(series->getNumOfDateComponents(), 5);
     EXPECT_EQ(series->getNumOfTimeComponents(), 4);
 
-    // The limits say which values are read at all.
-    auto limited = makeSeries({-day, day + 0.5}, 0, kDateTime, 0.0, kUpper);
-    EXPECT_EQ(limited->value(0), -day);
-    EXPECT_EQ(limited->getNumOfDateComponents(), 1);
-    EXPECT_EQ(limited->getNumOfTimeComponents(), 1);
+    // The mark goes before the limits look at a value: a lower limit of 0
+    // keeps a date written with a time; the missing value stays missing.
+    auto limited = makeSeries({-day, day + 0.5, kInvalid}, 0, kDateTime, 0.0, kUpper);
+    EXPECT_EQ(limited->value(0), day);
+    EXPECT_EQ(limited->value(2), kInvalid);
+    EXPECT_EQ(limited->getNumOfDateComponents(), 2);
+    EXPECT_EQ(limited->getNumOfTimeComponents(), 2);
 
     // The counts are taken before the option and kept by it.
     auto unique = makeSeries({day + 0.5, day + 0.5, day}, 6, kDateTime);

@@ -74,6 +74,9 @@ TEST(ScriptGolden, MessageLevels) {
 TEST(ScriptGolden, LayoutErrors) {
     checkGoldenFile("layout-errors.txt");
 }
+TEST(ScriptGolden, DataErrors) {
+    checkGoldenFile("data-errors.txt");
+}
 
 }  // namespace
 }  // namespace Velarix::test

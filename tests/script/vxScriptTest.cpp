@@ -103,9 +103,9 @@ TEST_F(Reader, ArraysColoursAndSeriesLists) {
 
 TEST_F(Reader, ChartValuesAndDates) {
     const vxAssign& data =
-        read(L"ChartData(null 1 2,5; \"2004-01-05 12:00\" 12/5/2004 NULL; ; 4/* c */5)");
+        read(L"ChartData(null 1 2,5; \"2004-01-05 12:00\" 2004-5-12 NULL; ; 4/* c */5)");
     EXPECT_EQ(data.getString(0), L"NULL 1 2,5");
-    EXPECT_EQ(data.getString(1), L"2004-01-05&12:00 12/5/2004 NULL");
+    EXPECT_EQ(data.getString(1), L"2004-01-05&12:00 2004-5-12 NULL");
     EXPECT_EQ(data.getString(2), L"NULL");
     EXPECT_EQ(data.getString(3), L"45");
     EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(24:00:00)").getDouble(0), 1.0);

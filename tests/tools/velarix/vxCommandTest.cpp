@@ -107,6 +107,10 @@ TEST(VelarixBinary, SucceedsSilently) {
 
 TEST(VelarixBinary, RendersEveryExample) {
     const std::string folder = makeTempFolder("examples");
+    // The data files the examples read lie beside their output.
+    for (const auto& data : fs::directory_iterator(fs::path(VELARIX_EXAMPLES_DIR) / "data")) {
+        fs::copy_file(data.path(), fs::path(folder) / data.path().filename());
+    }
     for (const auto& entry : fs::directory_iterator(VELARIX_EXAMPLES_DIR)) {
         if (entry.path().extension() != ".vxs") continue;
         RunResult r = runVelarixBinary("--base " + folder + " " + entry.path().string());
@@ -154,6 +158,23 @@ TEST(VelarixCommand, ReadsLargeScriptsQuickly) {
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_LT(seconds, 30.0);
+}
+
+// A bad value among 100,000 is shown in a window of the line around it, so
+// that the message stays short enough to read.
+TEST(VelarixCommand, BadValueInHugeChartDataGivesAShortMessage) {
+    std::string values;
+    for (int i = 0; i < 50'000; ++i) values += std::to_string(i) + " ";
+    const std::string script =
+        "OpenDrawing(400; 300)\nBarChart()\nChartData(" + values + "1O1 " + values + ")\n";
+    RunResult r = runVelarix(script);
+    EXPECT_EQ(r.status, 1);
+    const std::string first = "1140: Line 3: Function \"ChartData\": Argument # 1: Value error.\n";
+    ASSERT_EQ(r.err.rfind(first, 0), 0u) << r.err.substr(0, 300);
+    const std::string part = r.err.substr(first.size());
+    EXPECT_LT(part.size(), 200u) << part;
+    EXPECT_NE(part.find(" 49999 --->1O1<--- 0 1 2 "), std::string::npos) << part;
+    EXPECT_EQ(part.rfind("\u2026", 0), 0u) << part;  // cut in front
 }
 
 }  // namespace
