@@ -25,8 +25,18 @@ bool isNullToken(std::wstring_view token) {
            (token[2] | 0x20) == L'l' && (token[3] | 0x20) == L'l';
 }
 
-bool hasTimeSeparator(std::wstring_view token) {
-    return token.find_first_of(L":'") != std::wstring_view::npos;
+// A date with a time: the first separator is one of a date ("-", "/",
+// "."), and a time separator (":", "'") follows.
+bool writesDateAndTime(std::wstring_view token) {
+    size_t i = 0;
+    while (i < token.size() && token[i] != L'-' && token[i] != L'/' && token[i] != L'.') {
+        if (token[i] == L':' || token[i] == L'\'') return false;
+        ++i;
+    }
+    for (; i < token.size(); ++i) {
+        if (token[i] == L':' || token[i] == L'\'') return true;
+    }
+    return false;
 }
 
 // A token longer than this is cut in the error detail.
@@ -122,6 +132,10 @@ void vxDataRawInput::setDataOrder(short order) {
     recordSpans.clear();
 }
 
+bool vxDataRawInput::isFixedDateOrder(const std::wstring& order) {
+    return !order.empty() && (order[0] == L'Y' || order[0] == L'M' || order[0] == L'D');
+}
+
 std::wstring vxDataRawInput::dateOrderText(short id) {
     switch (id) {
         case kDateOrderYMD:
@@ -200,12 +214,13 @@ void vxDataRawInput::determineDataType(long n, const std::wstring& dateOrder) {
     short& type = dataTypes[static_cast<std::size_t>(std::max(0L, n)) % dataTypes.size()];
     forEachToken(n, [&](std::wstring_view token, long, long) {
         if (!token.data() || beginsWithN(token)) return true;
-        scratch.assign(token);
-        vxStringOLD::replaceFirstComma(scratch);
-        if (vxDouble::testNumber(scratch) == kNoError) {
+        double number = 0.0;
+        if (vxDouble::readNumber(token, number)) {
             type = kTypeNumber;
             return false;
         }
+        scratch.assign(token);
+        vxStringOLD::replaceFirstComma(scratch);
         std::wstring order = dateOrder;
         vxDateTimeSpecs specs;
         if (vxDateTime::verify(scratch, order, specs) == kNoError) {
@@ -237,7 +252,8 @@ void vxDataRawInput::extractNthSeries(std::vector<double>& out, long n) {
                  L"Series " + std::to_wstring(n + 1));
         return;
     }
-    if (type == kTypeDate) {
+    // With the order settled for the chart, reading each value is its test.
+    if (type == kTypeDate && !isFixedDateOrder(dateOrder)) {
         vxDateTimeSpecs specs;
         determineDateOrder(n, dateOrder, specs);
         if (isError()) return;
@@ -276,20 +292,18 @@ double vxDataRawInput::toValue(std::wstring_view token, const std::wstring& date
         raiseValueError(L"toValue", 1, series, element, token);
         return kInvalidValue;
     }
-    scratch.assign(token);
-    vxStringOLD::replaceFirstComma(scratch);
-    if ((type == kTypeNumber || type == kTypeAutomatic) &&
-        vxDouble::testNumber(scratch) == kNoError) {
-        return vxDouble::toDouble(scratch);
+    double value = 0.0;
+    if ((type == kTypeNumber || type == kTypeAutomatic) && vxDouble::readNumber(token, value)) {
+        return value;
     }
     if (type == kTypeDate || type == kTypeAutomatic) {
-        std::wstring order = dateOrder;
+        scratch.assign(token);
+        vxStringOLD::replaceFirstComma(scratch);
+        // An order still open is found anew for each value.
+        if (tokenOrder != dateOrder) tokenOrder = dateOrder;
         vxDateTimeSpecs specs;
-        double value = 0.0;
-        if (vxDateTime::parseValue(scratch, order, specs, value) == kNoError) {
-            const bool dateAndTime =
-                hasTimeSeparator(scratch) && vxDateTime::isDateBeforeTime(scratch);
-            return dateAndTime ? -value : value;
+        if (vxDateTime::parseValue(scratch, tokenOrder, specs, value) == kNoError) {
+            return writesDateAndTime(scratch) ? -value : value;
         }
     }
     raiseValueError(L"toValue", 1, series, element, token);
@@ -330,7 +344,7 @@ void vxDataRawInput::assignData(vxAssign& a) {
     inputStrings.clear();
     try {
         inputStrings.reserve(static_cast<std::size_t>(a.getNumOfArguments()));
-        for (long i = 0; i < a.getNumOfArguments(); ++i) inputStrings.push_back(a.getString(i));
+        for (long i = 0; i < a.getNumOfArguments(); ++i) inputStrings.push_back(a.takeString(i));
     } catch (const std::bad_alloc&) {
         inputStrings.clear();
         setError(vxErrRuntime::kOutOfMemory, where(L"assignData"));

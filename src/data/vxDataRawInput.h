@@ -83,6 +83,8 @@ public:
     // "YMD", "MDY", "DMY" or "???", and back; -1 for a text that is none.
     static std::wstring dateOrderText(short id);
     static short dateOrderIDOf(const std::wstring& order);
+    // "YMD", "MDY" or "DMY": the date test takes the fields in that order.
+    static bool isFixedDateOrder(const std::wstring& order);
 
     void dump(short depth, std::ostream& out) const;
 
@@ -115,8 +117,10 @@ private:
     std::vector<short> dataOptions;
     // Order xyxy: the token spans of each record, found once.
     std::vector<std::vector<std::pair<unsigned, unsigned>>> recordSpans;
-    // A token with its decimal comma made a point.
+    // A token with its decimal comma made a point, and the order the date
+    // test refines for it.
     std::wstring scratch;
+    std::wstring tokenOrder;
 };
 
 }  // namespace Velarix

@@ -188,10 +188,10 @@ vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
                 return {kSyntax, element};
             }
         }
-        joined += L' ';
+        if (!joined.empty()) joined += L' ';
         joined += value;
     }
-    assign.addString(joined.empty() ? joined : joined.substr(1));
+    assign.addString(std::move(joined));
     return {};
 }
 

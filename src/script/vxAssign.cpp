@@ -117,10 +117,10 @@ bool vxAssign::push(std::unique_ptr<vxPrimitive> value) {
 }
 
 template <class T, class V>
-bool vxAssign::addValue(const V& value, const wchar_t* method, int number) {
+bool vxAssign::addValue(V&& value, const wchar_t* method, int number) {
     std::unique_ptr<vxPrimitive> holder;
     try {
-        holder = std::make_unique<T>(value);
+        holder = std::make_unique<T>(std::forward<V>(value));
     } catch (const std::bad_alloc&) {
         holder.reset();
     }
@@ -137,6 +137,10 @@ bool vxAssign::addVoid() {
 
 bool vxAssign::addString(const std::wstring& value) {
     return addValue<vxStringOLD>(value, L"addString", 1);
+}
+
+bool vxAssign::addString(std::wstring&& value) {
+    return addValue<vxStringOLD>(std::move(value), L"addString", 1);
 }
 
 bool vxAssign::addShort(short value) {
@@ -292,6 +296,12 @@ double vxAssign::getDouble(long index, double def) const {
 std::wstring vxAssign::getString(long index, const std::wstring& def) const {
     const vxPrimitive* p = at(index);
     return hasKind(p, Kind::String) ? static_cast<const vxStringOLD*>(p)->value : def;
+}
+
+std::wstring vxAssign::takeString(long index) {
+    vxPrimitive* p = const_cast<vxPrimitive*>(at(index));
+    if (!hasKind(p, Kind::String)) return std::wstring();
+    return std::move(static_cast<vxStringOLD*>(p)->value);
 }
 
 std::vector<std::wstring> vxAssign::getStringArray(long index) const {

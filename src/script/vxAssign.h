@@ -33,6 +33,7 @@ public:
     // memory runs out.
     bool addVoid();
     bool addString(const std::wstring& value);
+    bool addString(std::wstring&& value);
     bool addShort(short value);
     bool addLong(long value);
     bool addFloat(float value);
@@ -78,6 +79,9 @@ public:
     float getFloat(long index, float def = 0.0f) const;
     double getDouble(long index, double def = 0.0) const;
     std::wstring getString(long index, const std::wstring& def = L"") const;
+    // The string of a text argument, moved out: the argument is left empty.
+    // For receivers that keep long texts, such as the chart data.
+    std::wstring takeString(long index);
 
     // Array getters give an empty vector for a missing argument.
     std::vector<std::wstring> getStringArray(long index) const;
@@ -96,7 +100,7 @@ public:
 private:
     bool push(std::unique_ptr<vxPrimitive> value);
     template <class T, class V>
-    bool addValue(const V& value, const wchar_t* method, int number);
+    bool addValue(V&& value, const wchar_t* method, int number);
 
     long argumentOffset = 0;
     long fnIndex = -1;

@@ -251,6 +251,40 @@ TEST(DataManager, SortIndices) {
     EXPECT_EQ(chart.data.getSortIndex(3), 1);
 }
 
+TEST(DataManager, MillionValuesInOneSeries) {
+    std::wstring text;
+    for (int i = 0; i < 1'000'000; ++i) text += std::to_wstring(i % 1000) + L' ';
+    Chart chart(kLineChart1D, 0, {text});
+    chart.setUp();
+    ASSERT_FALSE(chart.data.isError());
+    ASSERT_EQ(chart.data.getNumOfItems(0), 1'000'000);
+    vxDataValueSeries* values = chart.data.getValueSeries(0, 1);
+    EXPECT_EQ(values->getSum(), 499'500'000.0);
+    EXPECT_EQ(values->getMedian(), 499.5);
+}
+
+// Values at the ends of what a double and the calendar hold are read, and
+// those beyond the default limits are gaps.
+TEST(DataManager, ValuesAtTheEdges) {
+    Chart numbers(kLineChart1D, 0, {L"1e308 1e309 -1e309 4.9e-324 -0 0.0000001"});
+    numbers.setUp();
+    ASSERT_FALSE(numbers.data.isError());
+    vxDataValueSeries* n = numbers.data.getValueSeries(0, 1);
+    EXPECT_EQ(n->size(), 6);
+    EXPECT_EQ(n->getNumOfInvalidValues(), 2);
+    EXPECT_EQ(n->getMaxValue(), 1e308);
+    EXPECT_EQ(n->value(3), 4.9e-324);
+
+    Chart dates(kLineChart1D, 0, {L"1/1/0001 31/12/9999 29/2/2000 1/1/1900&23:59:59.999"});
+    dates.setUp();
+    ASSERT_FALSE(dates.data.isError()) << dates.data.getError()->getAddlInfo();
+    vxDataValueSeries* d = dates.data.getValueSeries(0, 1);
+    EXPECT_EQ(d->value(0), 1721426.0);  // 1 January of the year 1
+    EXPECT_EQ(d->value(1), 5373484.0);  // 31 December 9999
+    EXPECT_EQ(d->value(2), 2451604.0);
+    EXPECT_DOUBLE_EQ(d->value(3), 2415021.0 + 86399999e-8);
+}
+
 TEST(DataManager, FirstBadValueStopsTheSeries) {
     Chart chart(kBarChart1D, 0, {L"1 2", L"3 x 5"});
     chart.setUp();

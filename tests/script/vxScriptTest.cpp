@@ -4,6 +4,9 @@
 
 #include <cmath>
 
+#include "data/vxDataManager.h"
+#include "data/vxDataRawInput.h"
+#include "drawing/vxChart.h"
 #include "drawing/vxDrawingSpecs.h"
 #include "drawing/vxView.h"
 #include "host/vxInterface.h"
@@ -102,12 +105,13 @@ TEST_F(Reader, ArraysColoursAndSeriesLists) {
 }
 
 TEST_F(Reader, ChartValuesAndDates) {
-    const vxAssign& data =
-        read(L"ChartData(null 1 2,5; \"2004-01-05 12:00\" 2004-5-12 NULL; ; 4/* c */5)");
-    EXPECT_EQ(data.getString(0), L"NULL 1 2,5");
-    EXPECT_EQ(data.getString(1), L"2004-01-05&12:00 2004-5-12 NULL");
-    EXPECT_EQ(data.getString(2), L"NULL");
-    EXPECT_EQ(data.getString(3), L"45");
+    // The texts as the chart's data input has taken them.
+    read(L"ChartData(null 1 2,5; \"2004-01-05 12:00\" 2004-5-12 NULL; ; 4/* c */5)");
+    const auto* chart = dynamic_cast<const vxChart*>(view.getObject(view.getChartIndex()));
+    ASSERT_TRUE(chart && chart->getDataManager());
+    EXPECT_EQ(chart->getDataManager()->getRawInput()->getInputStrings(),
+              (std::vector<std::wstring>{L"NULL 1 2,5", L"2004-01-05&12:00 2004-5-12 NULL", L"NULL",
+                                         L"45"}));
     EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(24:00:00)").getDouble(0), 1.0);
     EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(24'00)").getDouble(0), 1.0);
     EXPECT_DOUBLE_EQ(read(L"LineChart()\nLineChartOptions(0,25)").getDouble(0), 0.25);

@@ -2,6 +2,7 @@
 
 #include <locale.h>
 #include <stdlib.h>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -114,6 +115,37 @@ double vxDouble::toDouble(const std::wstring& token) {
     // largest finite value; both come out as the latter.
     if (std::isinf(v)) v = std::copysign(std::numeric_limits<double>::max(), v);
     return v;
+}
+
+bool vxDouble::readNumber(std::wstring_view token, double& value) {
+    // Longer tokens, and values beyond the range of a double, go the way of
+    // testNumber and toDouble.
+    constexpr size_t kMaxChars = 64;
+    char chars[kMaxChars];
+    if (token.empty() || token.size() > kMaxChars) {
+        std::wstring text(token);
+        const size_t comma = text.find(L',');
+        if (comma != std::wstring::npos) text[comma] = L'.';
+        if (testNumber(text) != kNoError) return false;
+        value = toDouble(text);
+        return true;
+    }
+    NumberScan scan;
+    bool comma = false;
+    size_t n = 0;
+    for (wchar_t c : token) {
+        if (c == L',' && !comma) {
+            comma = true;
+            c = L'.';
+        }
+        if (!scan.accept(c)) return false;
+        chars[n++] = static_cast<char>(c);
+    }
+    if (!scan.complete()) return false;
+    const char* first = chars[0] == '+' ? chars + 1 : chars;
+    const auto [end, code] = std::from_chars(first, chars + n, value);
+    if (code != std::errc() || end != chars + n) value = toDouble(std::wstring(chars, chars + n));
+    return true;
 }
 
 }  // namespace Velarix

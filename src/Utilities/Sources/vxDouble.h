@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "Utilities/Sources/vxScalar.h"
 
@@ -21,6 +22,10 @@ public:
     // too large gives the largest finite double of the sign; one too small
     // gives 0.
     static double toDouble(const std::wstring& token);
+    // The test and the conversion in one pass, with the first "," of the
+    // token read as a point: false for a token that is no number. For the
+    // long runs of chart data.
+    static bool readNumber(std::wstring_view token, double& value);
 };
 
 }  // namespace Velarix

@@ -6,12 +6,18 @@ vxTokenizer::vxTokenizer(const std::wstring& text, const std::wstring& delimiter
                          bool protectQuotes)
     : text(text), delimiters(delimiters), protectQuotes(protectQuotes) {}
 
+vxTokenizer::vxTokenizer(std::wstring&& text, const std::wstring& delimiters, bool protectQuotes)
+    : ownText(std::move(text)),
+      text(ownText),
+      delimiters(delimiters),
+      protectQuotes(protectQuotes) {}
+
 bool vxTokenizer::next(std::wstring& token) {
     while (cursor < text.size() && isDelimiter(text[cursor])) ++cursor;
     if (cursor >= text.size()) return false;
     start = cursor;
     cursor = endOfToken(start);
-    token.assign(text, start, cursor - start);
+    token.assign(text.substr(start, cursor - start));
     return true;
 }
 

@@ -7,13 +7,19 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Velarix {
 
 class vxTokenizer {
 public:
+    // Reads the caller's text, which must outlive the tokenizer.
     vxTokenizer(const std::wstring& text, const std::wstring& delimiters,
                 bool protectQuotes = false);
+    // Keeps a text of its own.
+    vxTokenizer(std::wstring&& text, const std::wstring& delimiters, bool protectQuotes = false);
+    vxTokenizer(const vxTokenizer&) = delete;
+    vxTokenizer& operator=(const vxTokenizer&) = delete;
 
     // The next token, or false at the end of the text.
     bool next(std::wstring& token);
@@ -27,7 +33,8 @@ private:
     bool isDelimiter(wchar_t c) const;
     std::size_t endOfToken(std::size_t from) const;
 
-    std::wstring text;
+    std::wstring ownText;
+    std::wstring_view text;
     std::wstring delimiters;
     bool protectQuotes;
     std::size_t cursor = 0;
