@@ -20,22 +20,27 @@ std::vector<double> millionValues() {
 }
 
 // One buffer for the whole file, as the writer keeps it.
-void appendAll(benchmark::State& state, const wchar_t* format, wchar_t separator = 0) {
-    const std::vector<double> values = millionValues();
-    Velarix::vxFormatNumber number;
-    number.setThousandsSep(separator);
-    if (number.setFormat(format) != 0) state.SkipWithError("bad format");
+void appendEach(benchmark::State& state, Velarix::vxFormat& format,
+                const std::vector<double>& values) {
     std::wstring file;
     file.reserve(values.size() * 32);
     for (auto _ : state) {
         file.clear();
         for (double v : values) {
-            number.appendString(v, file);
+            format.appendString(v, file);
             file += L'\t';
         }
         benchmark::DoNotOptimize(file.data());
     }
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * values.size()));
+}
+
+void appendAll(benchmark::State& state, const wchar_t* format, wchar_t separator = 0) {
+    const std::vector<double> values = millionValues();
+    Velarix::vxFormatNumber number;
+    number.setThousandsSep(separator);
+    if (number.setFormat(format) != 0) state.SkipWithError("bad format");
+    appendEach(state, number, values);
 }
 
 void BM_NumbersPlain(benchmark::State& state) {
@@ -74,17 +79,7 @@ void BM_DatesWithTimes(benchmark::State& state) {
     }
     Velarix::vxFormatDateTime date(nullptr);
     if (date.setFormat(date.getDefaultFormat(values)) != 0) state.SkipWithError("bad format");
-    std::wstring file;
-    file.reserve(values.size() * 24);
-    for (auto _ : state) {
-        file.clear();
-        for (double v : values) {
-            date.appendString(v, file);
-            file += L'\t';
-        }
-        benchmark::DoNotOptimize(file.data());
-    }
-    state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * values.size()));
+    appendEach(state, date, values);
 }
 
 }  // namespace

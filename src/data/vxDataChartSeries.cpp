@@ -1,5 +1,6 @@
 #include "data/vxDataChartSeries.h"
 
+#include <algorithm>
 #include <new>
 
 #include "host/vxLog.h"
@@ -57,6 +58,15 @@ const vxDataValueSeries* vxDataChartSeries::getValueSeries(long series) const {
     return series >= 0 && series < getNumOfValueSeries()
                ? mValueSeries[static_cast<std::size_t>(series)].get()
                : nullptr;
+}
+
+long vxDataChartSeries::getShortestLength(long first) const {
+    long shortest = -1;
+    for (long s = std::max(0L, first); s < getNumOfValueSeries(); ++s) {
+        const long size = getValueSeries(s)->size();
+        shortest = shortest < 0 ? size : std::min(shortest, size);
+    }
+    return std::max(0L, shortest);
 }
 
 long vxDataChartSeries::getNumOfValues(long series) const {

@@ -34,6 +34,8 @@ public:
     const vxDataValueSeries* getValueSeries(long series) const;
 
     // The shortest value series, cut down to whole records.
+    // The length of the shortest value series from `first` on; 0 for none.
+    long getShortestLength(long first) const;
     long getNumOfItems() const { return mNumOfItems; }
     void setNumOfItems(long n) { mNumOfItems = n; }
 

@@ -8,15 +8,6 @@
 
 namespace Velarix {
 
-namespace {
-
-wchar_t separatorOf(const vxAssign& a, long index, wchar_t fallback) {
-    const std::wstring text = a.getString(index);
-    return text.empty() ? fallback : text[0];
-}
-
-}  // namespace
-
 vxDataFromFile::vxDataFromFile() : vxErrorHolder(L"vxDataFromFile") {}
 
 vxDataFromFile::~vxDataFromFile() = default;
@@ -25,8 +16,8 @@ void vxDataFromFile::assign(vxAssign& a, std::vector<std::wstring>& strings) {
     if (!create(file, L"createInputFile")) return;
     fileName = a.getString(0);
     doTranspose = a.getBool(1, false);
-    rowSeparator = separatorOf(a, 2, L'\n');
-    fieldSeparator = separatorOf(a, 3, L'\t');
+    rowSeparator = vxTextFile::separatorOf(a.getString(2), L'\n');
+    fieldSeparator = vxTextFile::separatorOf(a.getString(3), L'\t');
     requestedIndices.clear();
     for (long i = 4; i < a.getNumOfArguments(); ++i) requestedIndices.push_back(a.getLong(i, 0));
     file->createInputFile(fileName);

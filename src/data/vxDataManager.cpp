@@ -103,14 +103,11 @@ bool vxDataManager::addChartSeries(long first, const vxBaseChartParameters& char
                        vxDataValueSeries::kDefaultUpperLimit, 0);
     }
     const long k = std::max(1L, chart.getMinNumOfDataSeries());
-    long items = -1;
     for (long p = 0; p < k; ++p) {
         if (!fillValueSeries(*series, first + p)) return false;
-        const long size = series->getValueSeries(series->getNumOfValueSeries() - 1)->size();
-        items = items < 0 ? size : std::min(items, size);
     }
-    const long perRecord = std::max(1L, chart.getNumOfSubValues());
-    items -= items % perRecord;
+    long items = series->getShortestLength(chart.getNumOfIntervalSeries());
+    items -= items % std::max(1L, chart.getNumOfSubValues());
     for (long v = chart.getNumOfIntervalSeries(); v < series->getNumOfValueSeries(); ++v) {
         series->getValueSeries(v)->resize(items);
     }
@@ -150,7 +147,9 @@ void vxDataManager::determineDateTimeOrder(long k) {
     std::wstring order = L"???";
     for (long s = 0; s < rawInput->getNumOfDataSeries(); ++s) rawInput->determineDataType(s, order);
     bool anyDate = false;
-    for (long p = 0; p < k; ++p) anyDate = anyDate || rawInput->getDataType(p) == 3;
+    for (long p = 0; p < k; ++p) {
+        anyDate = anyDate || rawInput->getDataType(p) == vxDataRawInput::kTypeDate;
+    }
     if (!anyDate) return;
     vxDateTimeSpecs specs;
     for (long s = 0; s < rawInput->getNumOfDataSeries(); ++s) {

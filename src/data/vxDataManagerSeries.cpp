@@ -153,12 +153,7 @@ void vxDataManager::setUpRangeFrequencies(double min, double max, bool hasMin, b
 void vxDataManager::recountItems() {
     minNumOfItems = maxNumOfItems = 0;
     for (auto& series : chartSeries) {
-        long items = -1;
-        for (long v = numOfIntervalSeries; v < series->getNumOfValueSeries(); ++v) {
-            const long size = series->getValueSeries(v)->size();
-            items = items < 0 ? size : std::min(items, size);
-        }
-        items = std::max(0L, items);
+        const long items = series->getShortestLength(numOfIntervalSeries);
         series->setNumOfItems(items);
         minNumOfItems = std::min(minNumOfItems, items);
         maxNumOfItems = std::max(maxNumOfItems, items);

@@ -20,11 +20,6 @@ bool beginsWithN(std::wstring_view token) {
     return !token.empty() && (token[0] | 0x20) == L'n';
 }
 
-bool isNullToken(std::wstring_view token) {
-    return token.size() == 4 && (token[0] | 0x20) == L'n' && (token[1] | 0x20) == L'u' &&
-           (token[2] | 0x20) == L'l' && (token[3] | 0x20) == L'l';
-}
-
 // A date with a time: the first separator is one of a date ("-", "/",
 // "."), and a time separator (":", "'") follows.
 bool writesDateAndTime(std::wstring_view token) {
@@ -208,6 +203,12 @@ const std::vector<std::pair<unsigned, unsigned>>& vxDataRawInput::recordTokens(l
     return recordSpans[static_cast<std::size_t>(s)];
 }
 
+const std::wstring& vxDataRawInput::commaAsPoint(std::wstring_view token) {
+    scratch.assign(token);
+    vxStringOLD::replaceFirstComma(scratch);
+    return scratch;
+}
+
 void vxDataRawInput::determineDataType(long n, const std::wstring& dateOrder) {
     if (dataOrder != kOrderXYXY && getDataType(n) != kTypeAutomatic) return;
     if (dataTypes.empty()) dataTypes.push_back(kTypeAutomatic);
@@ -219,11 +220,9 @@ void vxDataRawInput::determineDataType(long n, const std::wstring& dateOrder) {
             type = kTypeNumber;
             return false;
         }
-        scratch.assign(token);
-        vxStringOLD::replaceFirstComma(scratch);
         std::wstring order = dateOrder;
         vxDateTimeSpecs specs;
-        if (vxDateTime::verify(scratch, order, specs) == kNoError) {
+        if (vxDateTime::verify(commaAsPoint(token), order, specs) == kNoError) {
             type = kTypeDate;
             return false;
         }
@@ -235,9 +234,7 @@ void vxDataRawInput::determineDateOrder(long n, std::wstring& dateOrder, vxDateT
     const int number = dataOrder == kOrderXYXY ? 1 : 2;
     forEachToken(n, [&](std::wstring_view token, long series, long element) {
         if (!token.data() || beginsWithN(token)) return true;
-        scratch.assign(token);
-        vxStringOLD::replaceFirstComma(scratch);
-        if (vxDateTime::verify(scratch, dateOrder, specs) == kNoError) return true;
+        if (vxDateTime::verify(commaAsPoint(token), dateOrder, specs) == kNoError) return true;
         raiseValueError(L"determineDateOrder", number, series, element, token);
         return false;
     });
@@ -288,7 +285,7 @@ void vxDataRawInput::settleOpenDateOrder(long n, std::wstring& dateOrder) {
 double vxDataRawInput::toValue(std::wstring_view token, const std::wstring& dateOrder, short type,
                                long series, long element) {
     if (beginsWithN(token)) {
-        if (isNullToken(token)) return kInvalidValue;
+        if (vxStringOLD::isNullText(token)) return kInvalidValue;
         raiseValueError(L"toValue", 1, series, element, token);
         return kInvalidValue;
     }
@@ -297,12 +294,10 @@ double vxDataRawInput::toValue(std::wstring_view token, const std::wstring& date
         return value;
     }
     if (type == kTypeDate || type == kTypeAutomatic) {
-        scratch.assign(token);
-        vxStringOLD::replaceFirstComma(scratch);
         // An order still open is found anew for each value.
         if (tokenOrder != dateOrder) tokenOrder = dateOrder;
         vxDateTimeSpecs specs;
-        if (vxDateTime::parseValue(scratch, tokenOrder, specs, value) == kNoError) {
+        if (vxDateTime::parseValue(commaAsPoint(token), tokenOrder, specs, value) == kNoError) {
             return writesDateAndTime(scratch) ? -value : value;
         }
     }

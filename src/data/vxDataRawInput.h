@@ -95,6 +95,8 @@ private:
     void forEachToken(long n, Visit&& visit);
     const std::vector<std::pair<unsigned, unsigned>>& recordTokens(long s);
     void settleOpenDateOrder(long n, std::wstring& dateOrder);
+    // The token with its first "," made a point, in a buffer used again.
+    const std::wstring& commaAsPoint(std::wstring_view token);
     double toValue(std::wstring_view token, const std::wstring& dateOrder, short type, long series,
                    long element);
     void raiseValueError(const wchar_t* method, int number, long series, long element,

@@ -18,11 +18,6 @@ namespace {
 // Text is written in pieces of about this many characters.
 constexpr size_t kFlushSize = 1 << 20;
 
-wchar_t separatorOf(const vxAssign& a, long index, wchar_t fallback) {
-    const std::wstring text = a.getString(index);
-    return text.empty() ? fallback : text[0];
-}
-
 // A format that is neither kind is taken for a number format when it is
 // made of the characters of number specifiers only.
 bool looksLikeNumberFormat(const std::wstring& text) {
@@ -45,8 +40,8 @@ void vxDataToFile::assign(vxAssign& a) {
     fileName = a.getString(0);
     writingMode = a.getShort(1, 1);
     doTranspose = a.getBool(3, false);
-    rowSeparator = separatorOf(a, 4, L'\n');
-    fieldSeparator = separatorOf(a, 5, L'\t');
+    rowSeparator = vxTextFile::separatorOf(a.getString(4), L'\n');
+    fieldSeparator = vxTextFile::separatorOf(a.getString(5), L'\t');
     formats.clear();
     if (a.getNumOfArguments() <= 6) return;
     const vxFormatSettings* settings = owner ? owner->getFormatSettings() : nullptr;

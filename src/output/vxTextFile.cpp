@@ -91,6 +91,10 @@ void vxTextFile::writeText(const std::wstring& value) {
     if (output->isError()) copyError(output->getError());
 }
 
+wchar_t vxTextFile::separatorOf(const std::wstring& argument, wchar_t fallback) {
+    return argument.empty() ? fallback : argument[0];
+}
+
 void vxTextFile::close() {
     if (!output || !output->isOpen()) return;
     output->close();

@@ -43,6 +43,10 @@ public:
     void writeText(const std::wstring& text);
     void close();
 
+    // The separator a call's argument names: its first character, or the
+    // fallback for an argument left empty.
+    static wchar_t separatorOf(const std::wstring& argument, wchar_t fallback);
+
 private:
     // The end of the record that starts at `from`, and where the next one
     // starts.

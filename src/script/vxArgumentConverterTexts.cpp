@@ -63,17 +63,10 @@ bool isEndOfDay(const std::wstring& text) {
     return true;
 }
 
-bool isNull(const std::wstring& text) {
-    return text.size() == 4 && (text[0] | 0x20) == L'n' && (text[1] | 0x20) == L'u' &&
-           (text[2] | 0x20) == L'l' && (text[3] | 0x20) == L'l';
-}
-
 // The number form, with a decimal comma read as a point.
 bool isNumberText(const std::wstring& text) {
-    if (text.find(L',') == std::wstring::npos) return vxDouble::testNumber(text) == 0;
-    std::wstring number = text;
-    vxStringOLD::replaceFirstComma(number);
-    return vxDouble::testNumber(number) == 0;
+    double value = 0.0;
+    return vxDouble::readNumber(text, value);
 }
 
 // The date form of a chart value, in the order the values before it found.
@@ -170,7 +163,7 @@ vxConversion vxArgumentConverter::convertChartValues(const std::wstring& text) {
         std::wstring value = isQuoted(token) ? unquoted(token) : std::move(token);
         if (value.empty()) continue;
         if (protectBlanks) std::replace(value.begin(), value.end(), L' ', L'&');
-        if (isNull(value)) {
+        if (vxStringOLD::isNullText(value)) {
             value = L"NULL";
         } else {
             const bool isNumber = isNumberText(value);

@@ -29,4 +29,9 @@ void vxStringOLD::replaceFirstComma(std::wstring& text) {
     if (comma != std::wstring::npos) text[comma] = L'.';
 }
 
+bool vxStringOLD::isNullText(std::wstring_view text) {
+    return text.size() == 4 && (text[0] | 0x20) == L'n' && (text[1] | 0x20) == L'u' &&
+           (text[2] | 0x20) == L'l' && (text[3] | 0x20) == L'l';
+}
+
 }  // namespace Velarix

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "Utilities/Sources/vxScalar.h"
 
@@ -19,6 +20,8 @@ public:
     static std::wstring toLower(const std::wstring& text);
     // Turns a decimal comma into a point: only the first "," changes.
     static void replaceFirstComma(std::wstring& text);
+    // "null" in any mix of cases: a gap in chart data.
+    static bool isNullText(std::wstring_view text);
 };
 
 }  // namespace Velarix
