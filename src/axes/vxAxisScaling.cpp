@@ -94,7 +94,6 @@ void vxAxisScaling::assign(vxAssign& a) {
     // Negative counts are the date-time keywords, whose kinds are one less.
     majorScalingBase = numOfMajorIntervals < 0 ? short(numOfMajorIntervals - 1) : 1;
     minorScalingBase = numOfMinorIntervals < 0 ? short(numOfMinorIntervals - 1) : 1;
-    if (numOfMajorIntervals < 0) maxNumOfMajorIntervals = 1000;
     origNumOfMajorIntervals = numOfMajorIntervals;
     origNumOfMinorIntervals = numOfMinorIntervals;
     origMajorScalingBase = majorScalingBase;
@@ -103,6 +102,12 @@ void vxAxisScaling::assign(vxAssign& a) {
     origHasPredefinedMaxUC = hasPredefinedMaxUC;
     origMinUC = minUC;
     origMaxUC = maxUC;
+    // The kinds are checked as a pair here; against the data's components
+    // at the set-up, when they are known.
+    if (numOfMajorIntervals < 0) {
+        maxNumOfMajorIntervals = 1000;
+        verifyDateTimePair(majorScalingBase, minorScalingBase);
+    }
 }
 
 void vxAxisScaling::assignOptions(vxAssign& a) {

@@ -14,13 +14,20 @@
 // given to toDC, isInScale and removeTicksOutside, and the results of toUC,
 // are in the stored form (the sign of a value with a date and a time is
 // ignored). Predefined limits, read in the stored form, are turned into
-// plain days by setUp.
+// plain days by setUp. Their ticks fall on calendar units, the interval
+// kinds of majorScalingBase and minorScalingBase: -2 year, -3 quarter,
+// -4 month, -5 week, -6 day, -7 hour, -8 to -13 minutes of 30, 20, 15, 10,
+// 5 and 1, -14 to -19 seconds of 30, 20, 15, 10, 5 and 1; -1 is an even
+// division and 1 no calendar kind. Dates that are all equal get a day on
+// each side, a value with a time an hour.
 //
 // Faults raise error 2100 and stop the set-up; limits and tick lists then
 // hold whatever they held. Besides the locations of the rules themselves
 // (verifyScalingLimits/1 to 17, calculateIntervalLength/1,
-// calculateScalingFactor/1) these guard against input that would loop,
-// overflow or give NaN:
+// calculateScalingFactor/1, verifyDateTimeScales/3 for a minor kind the
+// major doesn't allow, setUpMajorDateTimeScalingValues/N for more than 5000
+// ticks, N being 1 for years to 18 for seconds and 19 for even parts) these
+// guard against input that would loop, overflow or give NaN:
 //   verifyScalingLimits/18   a limit, base or power that is NaN or infinite,
 //                            or a span beyond the largest double
 //   verifyScalingLimits/19   a logarithmic scale of base 1
@@ -35,6 +42,10 @@
 //                            (negative data under an even power, ...)
 //   setUpProbabilityScaling/1  a negative count
 //   setUp/1                  a type outside 1 to 6
+//   setUpDateTimeScaling/1   dates before the calendar or after year 32767
+//   verifyDateTimeScales/1   a date kind (year to day) on times alone
+//   verifyDateTimeScales/2   a count of major intervals with a minor kind
+//   setUpMinorDateTimeScalingValues/1  more than kMaxNumOfMinorValues minors
 #pragma once
 
 #include <limits>
@@ -223,9 +234,29 @@ protected:
     void setUpPowerScaling();
     void setUpProbabilityScaling();
 
+    // The date-time road.
+    void setUpDateTimeScaling();
+    void verifyDateTimeScales(short major, short minor);
+    void verifyDateTimePair(short major, short minor);
+    void determineMajorBase();
+    void determineMinorBase();
+    void setUpMajorDateTimeScalingValues();
+    void setUpMinorDateTimeScalingValues();
+    void clipDateTimeScaling();
+
 private:
     bool isLimitSetFinite() const;
     void setUpEqualDataLimits();
+    void setUpEqualDateLimits();
+    void setUpDateTimeRoad();
+    void correctDateTimeEnd();
+    double floorToDateTimeKind(double value, short kind) const;
+    double addDateTimeSteps(double from, short kind, long k, long months) const;
+    long findYearIncrement(double min, double max) const;
+    bool setUpCalendarValues(double min, double end, short kind);
+    bool setUpPlainDateTimeValues(double min, double max);
+    double nextMinorDateTimeValue(double low, double high, long k) const;
+    void countMinorDateTimeIntervals();
     double countByShortestMantissa(double min, double max);
     long countMajorIntervals(double min, double max, double interval);
     // The major values from min to max, as the linear scale builds them;

@@ -14,6 +14,11 @@ void vxAxisScaling::setUp(short chartKind, short dataType) {
         if (hasPredefinedMinUC) minUC = std::floor(minUC);
         if (hasPredefinedMaxUC) maxUC = std::floor(maxUC);
     }
+    if (dataType == kDateTimeAxis) {
+        setUpDateTimeRoad();
+        if (!isError()) calculateScalingFactor();
+        return;
+    }
     verifyScalingLimits();
     if (isError()) return;
     switch (type) {
@@ -101,7 +106,11 @@ void vxAxisScaling::verifyScalingLimits() {
         }
     }
     if (!hasMin && !hasMax && std::fabs(dataSpan) < tol(dataSpan)) {
-        setUpEqualDataLimits();
+        if (axisDataType == kDateTimeAxis) {
+            setUpEqualDateLimits();
+        } else {
+            setUpEqualDataLimits();
+        }
         // The made-up limits are predefined from now on and meet the tests
         // of the type once.
         verifyScalingLimits();

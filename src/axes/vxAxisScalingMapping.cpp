@@ -123,14 +123,7 @@ void vxAxisScaling::removeTicksOutside(double lowUC, double highUC) {
     std::erase_if(majorValuesUC, outside);
     std::erase_if(minorValuesUC, outside);
     numOfMajorIntervals = std::max(0L, long(majorValuesUC.size()) - 1);
-    if (numOfMinorDateTimeIntervals.empty()) return;
-    // The minors that each remaining major interval holds.
-    numOfMinorDateTimeIntervals.assign(size_t(numOfMajorIntervals), 0L);
-    for (double v : minorValuesUC) {
-        const auto next = std::upper_bound(majorValuesUC.begin(), majorValuesUC.end(), v);
-        const long i = long(next - majorValuesUC.begin()) - 1;
-        if (i >= 0 && i < numOfMajorIntervals) ++numOfMinorDateTimeIntervals[size_t(i)];
-    }
+    if (!numOfMinorDateTimeIntervals.empty()) countMinorDateTimeIntervals();
 }
 
 }  // namespace Velarix

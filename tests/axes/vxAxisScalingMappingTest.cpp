@@ -67,40 +67,32 @@ TEST(vxAxisScalingMappingTest, InverseAndListMappingAgreeWithTheValueMapping) {
         {.type = S::kLogarithmic, .minData = 3, .maxData = 97},
         {.type = S::kExponential, .minData = 0, .maxData = 3},
         {.type = S::kPower, .minData = 0, .maxData = 97, .basis = 3},
-        {.type = S::kProbability, .minData = 1, .maxData = 9},
+        {.type = S::kProbability, .minData = 1, .maxData = 9},  // flat above 6
     };
     for (const vxScaleSpec& spec : specs) {
-        SCOPED_TRACE(spec.type);
         auto scale = vxMakeScale(spec);
-        ASSERT_EQ(vxErrorAt(*scale), L"");
+        const double low = scale->getMinUC(), span = scale->getMaxUC() - low;
+        const double high = spec.type == S::kProbability ? 3.0 : scale->getMaxUC();
+        std::vector<double> values;
+        for (int i = 0; i <= 20; ++i) values.push_back(low + (high - low) * i / 20);
         for (bool reversed : {false, true}) {
             if (reversed) scale->toggleReverseScaling();
-            std::vector<double> values;
-            for (int i = 0; i <= 20; ++i) {
-                const double low = spec.type == S::kProbability ? 0.1 : scale->getMinUC();
-                const double high = spec.type == S::kProbability ? 3.0 : scale->getMaxUC();
-                values.push_back(low + (high - low) * i / 20);
-            }
             std::vector<float> out;
             scale->toDC(values, out);
             ASSERT_EQ(out.size(), values.size());
             for (size_t i = 0; i < values.size(); ++i) {
                 EXPECT_EQ(out[i], scale->toDC(values[i]));
-                const double span = scale->getMaxUC() - scale->getMinUC();
-                EXPECT_NEAR(scale->toUC(out[i]), values[i], span * 1e-5) << values[i];
+                EXPECT_NEAR(scale->toUC(out[i]), values[i], span * 1e-5) << spec.type;
             }
         }
     }
-}
-
-TEST(vxAxisScalingMappingTest, ValuesThatAreNoNumbersStayOnTheAxisOrAtTheFloatLimits) {
+    // No number lies at the start of the axis, beyond the floats at their end.
     auto scale = vxMakeScale({.minData = 0, .maxData = 10});
     EXPECT_EQ(scale->toDC(NAN), 0.0f);
     EXPECT_EQ(scale->toDC(INFINITY), FLT_MAX);
     EXPECT_EQ(scale->toDC(-1.7976931348623157e308), -FLT_MAX);
-    auto root = vxMakeScale({.type = S::kPower, .minData = 1, .maxData = 9, .basis = 0.5});
-    ASSERT_EQ(vxErrorAt(*root), L"");
-    EXPECT_EQ(root->toDC(-4.0), 0.0f);
+    scale = vxMakeScale({.type = S::kPower, .minData = 1, .maxData = 9, .basis = 0.5});
+    EXPECT_EQ(scale->toDC(-4.0), 0.0f);
 }
 
 TEST(vxAxisScalingMappingTest, ScaleTestAndCutOfTicks) {
@@ -117,9 +109,7 @@ TEST(vxAxisScalingMappingTest, ScaleTestAndCutOfTicks) {
     EXPECT_EQ(scale->getMajorValues(), (std::vector<double>{20, 30, 40, 50, 60, 70, 80}));
     EXPECT_EQ(scale->getMinorValues(), (std::vector<double>{15, 25, 35, 45, 55, 65, 75, 85}));
     EXPECT_EQ(scale->getNumOfMajorIntervals(), 6);
-    EXPECT_EQ(scale->getMajorValue(0), 20.0);
     EXPECT_EQ(scale->getMajorValue(7), 0.0);
-    EXPECT_EQ(scale->getMinorValue(-1), 0.0);
     scale->removeTicksOutside(200, 300);
     EXPECT_FALSE(scale->hasMajorValues());
     EXPECT_EQ(scale->getNumOfMajorIntervals(), 0);
