@@ -7,12 +7,12 @@
 
 namespace {
 
-// Data of a typical chart: 3.7 to 96.2 on an axis of 300 units, with
-// minor ticks.
-void setUpTypicalAxis(Velarix::vxAxisScaling& scale, long state_minors) {
+// Data of a typical chart: 3.7 to 96.2 on an axis of 300 units; the
+// argument is the number of minor parts of a major interval.
+void setUpTypicalAxis(Velarix::vxAxisScaling& scale, long numOfMinorIntervals) {
     scale.setMinDataUC(3.7);
     scale.setMaxDataUC(96.2);
-    scale.setOrigNumOfMinorIntervals(state_minors);
+    scale.setOrigNumOfMinorIntervals(numOfMinorIntervals);
     scale.setMaxNumOfMajorIntervals(12);
     scale.setMinDC(0.0f);
     scale.setMaxDC(300.0f);
