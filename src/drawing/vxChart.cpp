@@ -1,5 +1,6 @@
 #include "drawing/vxChart.h"
 
+#include "axes/vxAxisManager.h"
 #include "charts/vxBaseChartParameters.h"
 #include "charts/vxChartTypeTable.h"
 #include "data/vxDataManager.h"
@@ -27,6 +28,8 @@ void vxChart::assign(vxAssign& a) {
             return assignChartOptions(a);
         case kGroupData:
             return assignData(a);
+        case kGroupAxes:
+            return assignAxes(a);
         default:
             return;
     }
@@ -44,12 +47,20 @@ void vxChart::assignData(vxAssign& a) {
     if (dataManager->isError()) copyError(dataManager->getError());
 }
 
+void vxChart::assignAxes(vxAssign& a) {
+    if (!axisManager && !create(axisManager, L"createAxisManager", getOwnerSettings())) return;
+    axisManager->assign(a);
+    if (axisManager->isError()) copyError(axisManager->getError());
+}
+
 void vxChart::setUp(const float bounds[4]) {
+    std::copy(bounds, bounds + 4, viewBounds);
     if (!parameters) {
         if (hasChartCalls()) setError(vxErrLayout::kNoChartFunction, where(L"setUp"));
         return;
     }
     setUpSeries();
+    if (!isError() && doRecalcBounds) setUpBounds();
 }
 
 // 1. The data manager reads the series for the chart type.
@@ -94,9 +105,20 @@ void vxChart::assignAddition(vxAssign& a, float originX, float originY) {
     }
 }
 
-// The additions lie behind what the chart draws of its own.
+// The additions lie behind what the chart draws of its own; the axes drawn
+// "front" come after the series.
 void vxChart::setUpLayers(vxLayerManager* layerMng) {
-    if (!layerMng || additions.empty()) return;
+    if (!layerMng) return;
+    setUpAdditionLayers(layerMng);
+    if (isError() || !axisManager || !hasAxes()) return;
+    const float* clip = layerMng->getCurrentClipRect();
+    axisManager->setUpLayers(layerMng, clip, false);
+    if (!axisManager->isError()) axisManager->setUpLayers(layerMng, clip, true);
+    if (axisManager->isError()) copyError(axisManager->getError());
+}
+
+void vxChart::setUpAdditionLayers(vxLayerManager* layerMng) {
+    if (additions.empty()) return;
     std::unique_ptr<vxLayer> layer;
     if (!create(layer, L"setUpAdditionLayers", kTypeChart, 0, layerMng->getCurrentClipRect())) {
         return;

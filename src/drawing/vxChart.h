@@ -11,6 +11,7 @@
 
 namespace Velarix {
 
+class vxAxisManager;
 class vxBaseChartParameters;
 class vxDataManager;
 
@@ -39,6 +40,15 @@ public:
     // Null until the chart has a chart type, or data.
     const vxBaseChartParameters* getParameters() const { return parameters.get(); }
     vxDataManager* getDataManager() const { return dataManager.get(); }
+    vxAxisManager* getAxisManager() const { return axisManager.get(); }
+    const float* getChartBounds() const { return chartBounds; }
+    const float* getGraphBounds() const { return graphBounds; }
+    const float* getPlotBounds() const { return plotBounds; }
+    const float* getInnerBounds() const { return innerBounds; }
+    // The span, data type and date and time flags of each axis.
+    const std::vector<double>& getAxisMinValues() const { return axisMinValues; }
+    const std::vector<double>& getAxisMaxValues() const { return axisMaxValues; }
+    const std::vector<short>& getAxisDataTypes() const { return axisDataTypes; }
 
     void dump(short depth, std::ostream& out) const override;
 
@@ -47,6 +57,26 @@ private:
     void assignChartOptions(vxAssign& assign);
     void assignData(vxAssign& assign);
     void setUpSeries();
+    void assignAxes(vxAssign& assign);
+    void setUpAdditionLayers(vxLayerManager* layerMng);
+    // The rectangles of the chart, from its frame inward (vxChartBounds.cpp).
+    void setUpBounds();
+    void setUpBoundsInFrame();
+    void setUpBoundsOfFixedPlot();
+    bool isGraphAreaTooSmall();
+    bool isPlotAreaTooSmall();
+    bool hasAxes() const;
+    // The plot inside the graph, fitted against the axes' labels.
+    void fitPlot(int rounds);
+    void setUpAxisScalings();
+    // The span of each axis by chart type (vxChartAxisLimits.cpp).
+    bool createAuxScalingVectors(long count);
+    void setUpAxisItems();
+    void setUpAxisLimits();
+    void setUpDefaultLimits();
+    void setUpDateTimeFlags();
+    bool takesReferenceValue() const;
+    void setUpCategoryPositions();
     // Calls of any chart subject but the added shapes.
     bool hasChartCalls() const;
     bool tooManyAdditions();
@@ -58,6 +88,26 @@ private:
     std::vector<std::unique_ptr<vxGObjectOLD>> additions;
     std::unique_ptr<vxBaseChartParameters> parameters;
     std::unique_ptr<vxDataManager> dataManager;
+    std::unique_ptr<vxAxisManager> axisManager;
+
+    float viewBounds[4] = {};
+    float chartBounds[4] = {};
+    float graphBounds[4] = {};
+    float plotBounds[4] = {};
+    float innerBounds[4] = {};
+    float chartMargins[4] = {10.0f, 10.0f, 10.0f, 10.0f};
+    float graphMargins[4] = {8.0f, 8.0f, 8.0f, 8.0f};
+    float innerMargins[4] = {8.0f, 8.0f, 8.0f, 8.0f};
+    bool doRecalcBounds = true;
+    std::vector<double> axisMinValues;
+    std::vector<double> axisMaxValues;
+    std::vector<short> axisDataTypes;
+    std::vector<short> axisHasDate;
+    std::vector<short> axisHasTime;
+    // The places of items that stand between the marks of the interval
+    // axis, where its labels go; empty when they stand on the marks.
+    std::vector<double> categoryPositions;
+    long categoryAxis = -1;
 };
 
 }  // namespace Velarix

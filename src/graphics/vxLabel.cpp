@@ -4,6 +4,7 @@
 #include <new>
 
 #include "graphics/vxAuxiliaryLine2D.h"
+#include "graphics/vxBoundsUnion.h"
 #include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxGObjectState.h"
 #include "graphics/vxPath2DOLD.h"
@@ -59,18 +60,6 @@ void transformLine(vxAuxiliaryLine2D& line, const vxTransform2DOLD& t) {
         t.transform(xs.back(), ys.back());
         line.setP2Extension(xs.back(), ys.back());
     }
-}
-
-void unite(float b[4], const float part[4], bool& isFirst) {
-    if (isFirst) {
-        std::copy(part, part + 4, b);
-        isFirst = false;
-        return;
-    }
-    b[0] = std::min(b[0], part[0]);
-    b[1] = std::min(b[1], part[1]);
-    b[2] = std::max(b[2], part[2]);
-    b[3] = std::max(b[3], part[3]);
 }
 
 }  // namespace
@@ -236,19 +225,19 @@ void vxLabel::flip(short mode, float x, float y) {
 
 void vxLabel::calculateBounds(float b[4]) const {
     std::fill(b, b + 4, 0.0f);
-    bool isFirst = true;
+    bool hasBounds = false;
     float part[4];
     if (text) {
         text->getBounds(part);
-        unite(b, part, isFirst);
+        vxUniteBounds(b, part, hasBounds);
     }
     if (background && !background->isEmpty()) {
         background->getBounds(part);
-        unite(b, part, isFirst);
+        vxUniteBounds(b, part, hasBounds);
     }
     if (auxiliaryLine) {
         auxiliaryLine->getBounds(part);
-        unite(b, part, isFirst);
+        vxUniteBounds(b, part, hasBounds);
     }
 }
 

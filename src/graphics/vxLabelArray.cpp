@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "graphics/vxBoundsUnion.h"
 #include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxGObjectState.h"
 #include "graphics/vxLabel.h"
@@ -51,17 +52,11 @@ void vxLabelArray::flip(short mode, float x, float y) {
 
 void vxLabelArray::calculateBounds(float b[4]) const {
     std::fill(b, b + 4, 0.0f);
-    for (auto it = labels.begin(); it != labels.end(); ++it) {
+    bool hasBounds = false;
+    for (const auto& label : labels) {
         float l[4];
-        (*it)->getBounds(l);
-        if (it == labels.begin()) {
-            std::copy(l, l + 4, b);
-            continue;
-        }
-        b[0] = std::min(b[0], l[0]);
-        b[1] = std::min(b[1], l[1]);
-        b[2] = std::max(b[2], l[2]);
-        b[3] = std::max(b[3], l[3]);
+        label->getBounds(l);
+        vxUniteBounds(b, l, hasBounds);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "graphics/vxBoundsUnion.h"
 #include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxGObjectState.h"
 #include "graphics/vxSelectionKnobs.h"
@@ -47,21 +48,13 @@ void vxSymbolArray::transformGeometry(const vxTransform2DOLD& t) {
 }
 
 void vxSymbolArray::calculateBounds(float b[4]) const {
-    bool isFirst = true;
+    bool hasBounds = false;
     std::fill(b, b + 4, 0.0f);
     for (const auto& symbol : symbols) {
         if (!symbol) continue;
         float s[4];
         symbol->getBounds(s);
-        if (isFirst) {
-            std::copy(s, s + 4, b);
-            isFirst = false;
-            continue;
-        }
-        b[0] = std::min(b[0], s[0]);
-        b[1] = std::min(b[1], s[1]);
-        b[2] = std::max(b[2], s[2]);
-        b[3] = std::max(b[3], s[3]);
+        vxUniteBounds(b, s, hasBounds);
     }
 }
 

@@ -203,6 +203,7 @@ void vxAssign::clear() {
     argumentOffset = 0;
     arguments.clear();
     notes.clear();
+    callPlace = CallPlace();
 }
 
 short vxAssign::getFunctionGroup() const {

@@ -94,6 +94,17 @@ public:
     void setNote(long index, const std::wstring& text);
     std::wstring getNote(long index) const;
 
+    // Where the call stands in the script: its first line, its name and its
+    // text marked as a message shows it. Receivers that find a fault only
+    // later, when the chart is laid out, keep it to point at the call.
+    struct CallPlace {
+        long line = -1;
+        std::wstring fnName;
+        std::wstring scriptPart;
+    };
+    void setCallPlace(CallPlace place) { callPlace = std::move(place); }
+    const CallPlace& getCallPlace() const { return callPlace; }
+
     const vxPrimitive* at(long index) const;  // null when void or out of range
     void dump(short depth, std::ostream& out) const;
 
@@ -106,6 +117,7 @@ private:
     long fnIndex = -1;
     std::vector<std::unique_ptr<vxPrimitive>> arguments;
     std::map<long, std::wstring> notes;
+    CallPlace callPlace;
 };
 
 }  // namespace Velarix

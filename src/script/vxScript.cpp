@@ -133,6 +133,8 @@ void vxScript::parse() {
 void vxScript::extractFunctionName() {
     phase = Phase::kName;
     const long begin = charIndex;
+    callBegin = begin;
+    callLine = lineNumber;
     long end = charIndex;
     bool inName = true;
     bool lineBreakSeen = false;

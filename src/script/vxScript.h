@@ -82,6 +82,7 @@ private:
     void checkArgumentCount();
     void dispatch();
     void dispatchMisc();
+    void setDateTimeFormat(const std::wstring& text);
     void setThousandsSep(const vxAssign& a, long index);
     void setGroupSize(const vxAssign& a, long index);
     void dispatchToView();
@@ -116,6 +117,8 @@ private:
     long lineOfError = 1;  // the line an error reports
     long bracketPos = 0;   // behind the "(" of the current call
     long closePos = 0;     // at the ")" of the current call
+    long callBegin = 0;    // at the first character of the current call's name
+    long callLine = 1;     // the line the current call begins on
 
     vxUserSettings* userSettings;
     vxErrorSettings* errorSettings = nullptr;

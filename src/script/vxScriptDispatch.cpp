@@ -2,6 +2,7 @@
 // the current view, chosen by the function's group.
 #include <cmath>
 
+#include "Utilities/Sources/vxFormatDateTime.h"
 #include "drawing/vxDrawingSpecs.h"
 #include "drawing/vxView.h"
 #include "output/vxOutputWIN.h"
@@ -26,6 +27,11 @@ void vxScript::dispatch() {
             return;
         case kGroupMisc:
             return dispatchMisc();
+        case kGroupAxes:
+            // Scales are checked against the data only when the chart is
+            // laid out; the call's place goes with it.
+            assign->setCallPlace({callLine, fnName, errScriptPart(callBegin, closePos + 1)});
+            return dispatchToView();
         default:
             return dispatchToView();
     }
@@ -59,13 +65,22 @@ void vxScript::dispatchMisc() {
             if (!a.isVoid(1)) formatSettings->setWeekStartIndex(short(a.getShort(1) - 1));
             break;
         case kSetDateFormat:
-            formatSettings->setDateFormat(a.getString(0));
-            break;
         case kSetTimeFormat:
-            formatSettings->setTimeFormat(a.getString(0));
-            break;
+            return setDateTimeFormat(a.getString(0));
         default:
             break;
+    }
+}
+
+// The date or time part of the formats that dates get when none is given;
+// an empty text goes back to the derived one.
+void vxScript::setDateTimeFormat(const std::wstring& text) {
+    vxFormatDateTime check(formatSettings);
+    if (!text.empty() && check.setFormat(text) != 0) return copyError(check.getError());
+    if (fnIndex == kSetDateFormat) {
+        formatSettings->setDateFormat(text);
+    } else {
+        formatSettings->setTimeFormat(text);
     }
 }
 

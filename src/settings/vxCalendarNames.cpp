@@ -12,8 +12,8 @@ const vxCalendarNames& english() {
          L"September", L"October", L"November", L"December"},
         {L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jun", L"Jul", L"Aug", L"Sep", L"Oct", L"Nov",
          L"Dec"},
-        {L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday", L"Sunday"},
-        {L"Mon", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat", L"Sun"},
+        {L"Sunday", L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday"},
+        {L"Sun", L"Mon", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat"},
     };
     return names;
 }
@@ -24,8 +24,8 @@ const vxCalendarNames& german() {
          L"September", L"Oktober", L"November", L"Dezember"},
         {L"Jan", L"Feb", L"Mae", L"Apr", L"Mai", L"Jun", L"Jul", L"Aug", L"Sep", L"Okt", L"Nov",
          L"Dez"},
-        {L"Montag", L"Dienstag", L"Mittwoch", L"Donnerstag", L"Freitag", L"Samstag", L"Sonntag"},
-        {L"Mon", L"Die", L"Mit", L"Don", L"Fre", L"Sam", L"Son"},
+        {L"Sonntag", L"Montag", L"Dienstag", L"Mittwoch", L"Donnerstag", L"Freitag", L"Samstag"},
+        {L"Son", L"Mon", L"Die", L"Mit", L"Don", L"Fre", L"Sam"},
     };
     return names;
 }

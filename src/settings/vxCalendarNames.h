@@ -9,7 +9,7 @@ namespace Velarix {
 struct vxCalendarNames {
     std::vector<std::wstring> months;  // January first
     std::vector<std::wstring> shortMonths;
-    std::vector<std::wstring> weekdays;  // Monday first
+    std::vector<std::wstring> weekdays;  // Sunday first, as the date formats count
     std::vector<std::wstring> shortWeekdays;
 };
 

@@ -138,6 +138,13 @@ bool vxError::createRuntimeError() {
     return true;
 }
 
+void vxError::setCallPlace(long line, const std::wstring& fnName, const std::wstring& scriptPart) {
+    if (!createParsingError()) return;
+    parsingError->lineNumber = line;
+    parsingError->fnName = fnName;
+    parsingError->errScriptPart = scriptPart;
+}
+
 // The setters copy their texts before the reset: a caller may pass the
 // record's own fields.
 void vxError::setParsingError(short code, long line, const std::wstring& fnName, long argIndex,

@@ -47,6 +47,9 @@ public:
     void setError(short code, const std::wstring& location);
     void setError(short code);
 
+    // Places the error at a script call, keeping code, location and
+    // additional information.
+    void setCallPlace(long line, const std::wstring& fnName, const std::wstring& scriptPart);
     void setMessagePrefix(const vxErrorSettings* settings);
     void copy(const vxError* from);  // null clears
     void clearText();

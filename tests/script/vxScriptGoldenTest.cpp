@@ -77,6 +77,9 @@ TEST(ScriptGolden, LayoutErrors) {
 TEST(ScriptGolden, DataErrors) {
     checkGoldenFile("data-errors.txt");
 }
+TEST(ScriptGolden, AxisErrors) {
+    checkGoldenFile("axis-errors.txt");
+}
 
 }  // namespace
 }  // namespace Velarix::test

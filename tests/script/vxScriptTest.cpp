@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "Utilities/Sources/vxFormatDateTime.h"
 #include "data/vxDataManager.h"
 #include "data/vxDataRawInput.h"
 #include "drawing/vxChart.h"
@@ -155,6 +156,20 @@ TEST_F(Reader, FormatFunctionsSetTheFormatSettings) {
     EXPECT_EQ(f->getThousandsSep(), 0);
     EXPECT_EQ(f->getThousandsGroupSize(), 3);
     EXPECT_EQ(f->getDecimalPoint(), L'.');
+
+    // Date and time formats are checked as they come; an empty one goes
+    // back to the derived format.
+    script.tokenize(L"OpenDrawing(9; 9) SetDateFormat(\"D. Month YYYY\") SetTimeFormat(\"hh'mm\")");
+    ASSERT_FALSE(script.isError()) << describe();
+    EXPECT_EQ(f->getDateFormat(), L"D. Month YYYY");
+    EXPECT_EQ(f->getTimeFormat(), L"hh'mm");
+    vxFormatDateTime date(f);
+    EXPECT_EQ(date.getDefaultFormat(std::vector<double>{-2453010.3270325}), L"D. Month YYYY hh'mm");
+    script.tokenize(L"OpenDrawing(9; 9) SetDateFormat(\"\") SetTimeFormat(\"a|b\")");
+    ASSERT_TRUE(script.isError());
+    EXPECT_EQ(script.getError()->getErrorCode(), 2002);
+    EXPECT_TRUE(f->getDateFormat().empty());
+    EXPECT_EQ(f->getTimeFormat(), L"hh'mm");
 }
 
 TEST_F(Reader, DrawingFlagsFollowOpenAndClose) {

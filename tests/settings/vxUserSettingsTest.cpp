@@ -80,10 +80,11 @@ TEST(vxUserSettingsTest, EnglishFormatDefaults) {
                      L"August", L"September", L"October", L"November", L"December"}));
     EXPECT_EQ(f.getShortMonthNames(), (Names{L"Jan", L"Feb", L"Mar", L"Apr", L"May", L"Jun", L"Jul",
                                              L"Aug", L"Sep", L"Oct", L"Nov", L"Dec"}));
-    EXPECT_EQ(f.getWeekdayNames(), (Names{L"Monday", L"Tuesday", L"Wednesday", L"Thursday",
-                                          L"Friday", L"Saturday", L"Sunday"}));
+    // Weeks begin on Sunday in the tables, as the date formats count them.
+    EXPECT_EQ(f.getWeekdayNames(), (Names{L"Sunday", L"Monday", L"Tuesday", L"Wednesday",
+                                          L"Thursday", L"Friday", L"Saturday"}));
     EXPECT_EQ(f.getShortWeekdayNames(),
-              (Names{L"Mon", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat", L"Sun"}));
+              (Names{L"Sun", L"Mon", L"Tue", L"Wed", L"Thu", L"Fri", L"Sat"}));
     EXPECT_EQ(f.getDecimalPoint(), L'.');
     EXPECT_EQ(f.getThousandsSep(), 0);
     EXPECT_EQ(f.getThousandsGroupSize(), 3);
@@ -104,10 +105,10 @@ TEST(vxUserSettingsTest, GermanNamesFollowTheLanguageID) {
                      L"September", L"Oktober", L"November", L"Dezember"}));
     EXPECT_EQ(f.getShortMonthNames(), (Names{L"Jan", L"Feb", L"Mae", L"Apr", L"Mai", L"Jun", L"Jul",
                                              L"Aug", L"Sep", L"Okt", L"Nov", L"Dez"}));
-    EXPECT_EQ(f.getWeekdayNames(), (Names{L"Montag", L"Dienstag", L"Mittwoch", L"Donnerstag",
-                                          L"Freitag", L"Samstag", L"Sonntag"}));
+    EXPECT_EQ(f.getWeekdayNames(), (Names{L"Sonntag", L"Montag", L"Dienstag", L"Mittwoch",
+                                          L"Donnerstag", L"Freitag", L"Samstag"}));
     EXPECT_EQ(f.getShortWeekdayNames(),
-              (Names{L"Mon", L"Die", L"Mit", L"Don", L"Fre", L"Sam", L"Son"}));
+              (Names{L"Son", L"Mon", L"Die", L"Mit", L"Don", L"Fre", L"Sam"}));
     EXPECT_EQ(f.getDecimalPoint(), L'.');
 }
 

@@ -34,4 +34,10 @@ std::string goldenPath(const std::string& folder, const std::string& name);
 // file as NAME.new, for review.
 void offerUpdate(const std::string& path, const std::string& actual);
 
+// Runs each case of folder/golden/name through the command and compares the
+// files it writes with the case's sections: a section's header names the
+// file, its text is that file without the prolog (the lines up to the <svg>
+// element) and without the closing </svg>.
+void checkDrawingGoldenFile(const std::string& folder, const std::string& name);
+
 }  // namespace Velarix::test

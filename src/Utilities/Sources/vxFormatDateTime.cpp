@@ -265,12 +265,12 @@ void vxFormatDateTime::appendMonthToken(const Items& date, short token, std::wst
     }
 }
 
-// The weekday's index counts from Sunday, as the week start does; the name
-// tables of the settings begin with Monday.
+// The weekday's index counts from Sunday, as the week start and the name
+// tables of the settings do.
 void vxFormatDateTime::appendWeekdayToken(const Items& date, short token, std::wstring& out) const {
     const vxFormatSettings& s = getSettings();
     const long fromSunday = (vxDateTime::weekday(date.year, date.month, short(date.day)) + 6) % 7;
-    const long name = (fromSunday + 6) % 7;
+    const long name = fromSunday;
     const size_t all = std::wstring::npos;
     switch (T(token)) {
         case T::kWeekdayCapitals:

@@ -25,15 +25,15 @@ class vxFormatSettings;
 
 class vxFormatDateTime : public vxFormat {
 public:
-    // The interval values of a date axis's `Scaling`, as the tick formats
-    // take them.
+    // The interval kinds of a date axis, as its scaling keeps them: the
+    // value of the `Scaling` keyword less one ("year" -1 is kind -2).
     enum Interval : short {
-        kYearInterval = -1,
-        kQuarterInterval = -2,
-        kMonthInterval = -3,
-        kWeekInterval = -4,
-        kDayInterval = -5,
-        kHourInterval = -6,
+        kYearInterval = -2,
+        kQuarterInterval = -3,
+        kMonthInterval = -4,
+        kWeekInterval = -5,
+        kDayInterval = -6,
+        kHourInterval = -7,
     };
 
     // Values whose whole part reaches this lie beyond the years a short can

@@ -48,8 +48,10 @@ const wchar_t* dateSeparator(short id) {
 
 }  // namespace
 
+// A date format of the settings (SetDateFormat) replaces the derived one.
 std::wstring vxFormatDateTime::datePart() const {
     const vxFormatSettings& s = getSettings();
+    if (!s.getDateFormat().empty()) return s.getDateFormat();
     const std::wstring year = s.getYearFormatID() == ID::kYY ? L"YY" : L"YYYY";
     const std::wstring month = s.getMonthFormatID() == ID::kMM ? L"MM" : L"M";
     const std::wstring day = s.getDayFormatID() == ID::kDD ? L"DD" : L"D";
@@ -64,8 +66,10 @@ std::wstring vxFormatDateTime::datePart() const {
     }
 }
 
+// A time format of the settings (SetTimeFormat) replaces the derived one.
 std::wstring vxFormatDateTime::timePart(bool seconds, short millisecondDigits) const {
     const vxFormatSettings& s = getSettings();
+    if (!s.getTimeFormat().empty()) return s.getTimeFormat();
     const std::wstring sep = s.getTimeSeparatorID() == 1 ? L"'" : L":";
     std::wstring text = s.getHourFormatID() == ID::khh ? L"hh" : L"h";
     text += sep + (s.getMinuteFormatID() == ID::km ? L"m" : L"mm");

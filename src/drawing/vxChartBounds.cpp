@@ -1,0 +1,138 @@
+// The rectangles of a chart: the frame, the graph inside the margins, and
+// the plot inside the axes, fitted against the axes' labels.
+#include <algorithm>
+#include <cmath>
+
+#include "axes/vxAxisManager.h"
+#include "charts/vxBaseChartParameters.h"
+#include "drawing/vxChart.h"
+#include "graphics/vxBoundsUnion.h"
+#include "settings/vxUserSettings.h"
+
+namespace Velarix {
+
+namespace {
+
+// The smallest graph and plot a chart is drawn in.
+constexpr float kMinGraphSize = 20.0f;
+constexpr float kMinPlotSize = 10.0f;
+constexpr short kPieChart = 13;
+constexpr int kFittingRounds = 3;
+
+bool isBarOrAreaDateTimeChart(short chartType) {
+    return chartType == 9 || chartType == 10 || chartType == 11 || chartType == 18 ||
+           chartType == 20;
+}
+
+}  // namespace
+
+bool vxChart::hasAxes() const {
+    return parameters && parameters->getChartType() != kPieChart &&
+           parameters->getCoordinateSystem() == 1;
+}
+
+void vxChart::setUpBounds() {
+    std::copy(frame, frame + 4, chartBounds);
+    if (hasAxes()) {
+        setUpAxisItems();
+        if (!isError()) setUpAxisLimits();
+        if (isError()) return;
+    }
+    if (fixedPlotArea) {
+        setUpBoundsOfFixedPlot();
+    } else {
+        setUpBoundsInFrame();
+    }
+    if (isError()) return;
+    for (int i = 0; i < 4; ++i) {
+        innerBounds[i] = plotBounds[i] + (i < 2 ? innerMargins[i] : -innerMargins[i]);
+    }
+    doRecalcBounds = false;
+}
+
+void vxChart::setUpBoundsInFrame() {
+    for (int i = 0; i < 4; ++i) {
+        graphBounds[i] = chartBounds[i] + (i < 2 ? chartMargins[i] : -chartMargins[i]);
+    }
+    if (isGraphAreaTooSmall()) return;
+    fitPlot(kFittingRounds);
+    if (!isError()) isPlotAreaTooSmall();
+}
+
+// The frame given is the plot; graph and chart lie around it.
+void vxChart::setUpBoundsOfFixedPlot() {
+    std::copy(frame, frame + 4, plotBounds);
+    for (int i = 0; i < 4; ++i) {
+        const float out = i < 2 ? -1.0f : 1.0f;
+        graphBounds[i] = plotBounds[i] + out * graphMargins[i];
+        chartBounds[i] = graphBounds[i] + out * chartMargins[i];
+    }
+    if (isPlotAreaTooSmall() || isGraphAreaTooSmall()) return;
+    fitPlot(1);
+}
+
+bool vxChart::isGraphAreaTooSmall() {
+    if (graphBounds[2] - graphBounds[0] >= kMinGraphSize &&
+        graphBounds[3] - graphBounds[1] >= kMinGraphSize) {
+        return false;
+    }
+    setError(vxErrChart::kFrameTooSmall, L"vxChart/isGraphAreaTooSmall/1");
+    return true;
+}
+
+bool vxChart::isPlotAreaTooSmall() {
+    if (plotBounds[2] - plotBounds[0] >= kMinPlotSize &&
+        plotBounds[3] - plotBounds[1] >= kMinPlotSize) {
+        return false;
+    }
+    setError(vxErrChart::kFrameTooSmall, L"vxChart/isPlotAreaTooSmall/1");
+    return true;
+}
+
+// Labels that stick out of the plot move it inward; as the axes scale
+// again for the smaller plot their labels change, and three rounds settle
+// it. A fixed plot keeps its place: one round finds the graph around it.
+void vxChart::fitPlot(int rounds) {
+    const bool fixed = fixedPlotArea;
+    if (!fixed) std::copy(graphBounds, graphBounds + 4, plotBounds);
+    float g[4];
+    std::copy(graphBounds, graphBounds + 4, g);
+    for (int round = 0; round < rounds; ++round) {
+        if (!fixed) {
+            plotBounds[0] += std::round(std::fabs(g[0] - graphBounds[0]));
+            plotBounds[1] += std::round(std::fabs(g[1] - graphBounds[1]));
+            plotBounds[2] -= std::round(std::fabs(g[2] - graphBounds[2]));
+            plotBounds[3] -= std::round(std::fabs(g[3] - graphBounds[3]));
+        }
+        if (!hasAxes()) return;
+        if (plotBounds[2] - plotBounds[0] < 1.0f || plotBounds[3] - plotBounds[1] < 1.0f) return;
+        setUpAxisScalings();
+        if (isError()) return;
+        float outer[4];
+        if (!fixed) std::copy(plotBounds, plotBounds + 4, graphBounds);
+        bool hasBounds = true;
+        if (axisManager->getOuterBounds(outer)) vxUniteBounds(graphBounds, outer, hasBounds);
+    }
+}
+
+void vxChart::setUpAxisScalings() {
+    std::vector<vxAxisManager::AxisSpan> spans;
+    for (size_t k = 0; k < axisMinValues.size(); ++k) {
+        vxAxisManager::AxisSpan span;
+        span.min = axisMinValues[k];
+        span.max = axisMaxValues[k];
+        span.dataType = axisDataTypes[k];
+        span.hasDate = axisHasDate[k] != 0;
+        span.hasTime = axisHasTime[k] != 0;
+        spans.push_back(std::move(span));
+        if (long(k) == categoryAxis) spans.back().categories = categoryPositions;
+    }
+    axisManager->setIsHorizontal(parameters->isHorizontal());
+    vxUserSettings* settings = getOwnerSettings();
+    axisManager->setUpCartesian(plotBounds, spans, parameters->getChartType(),
+                                isBarOrAreaDateTimeChart(parameters->getChartType()),
+                                settings ? settings->getFormatSettings() : nullptr);
+    if (axisManager->isError()) copyError(axisManager->getError());
+}
+
+}  // namespace Velarix
