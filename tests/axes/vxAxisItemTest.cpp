@@ -184,6 +184,22 @@ TEST_F(ChartScript, LabelsTakeTheirFormats) {
     }
 }
 
+TEST_F(ChartScript, ManyCategoriesKeepEveryFewLabels) {
+    std::wstring values;
+    for (int i = 1; i <= 40; ++i) values += std::to_wstring(i) + L" ";
+    ASSERT_EQ(run(L"BarChart()\nChartData(" + values + L")\n"), 0) << message();
+    const Texts labels = labelTexts(axis(0));
+    EXPECT_EQ(labels.size(), 20u);
+    EXPECT_EQ(labels.front(), L"1");
+    EXPECT_EQ(labels.back(), L"39");
+    for (long i = 1; i < long(labels.size()); ++i) {
+        float left[4], right[4];
+        labelBox(axis(0), i - 1, left);
+        labelBox(axis(0), i, right);
+        EXPECT_LT(left[2], right[0]) << "labels " << i - 1 << " and " << i << " overlap";
+    }
+}
+
 TEST_F(ChartScript, PercentScalesShowThePercentSign) {
     ASSERT_EQ(run(std::wstring(kBars) + L"Scaling(y; percent)\n"), 0) << message();
     const Texts labels = labelTexts(axis(1));
