@@ -1,0 +1,139 @@
+// The common ground of the chart classes (bars, lines, areas, pies ...): a
+// chart class turns the series of the data manager into graphic objects on
+// layers. It owns its parameters and its depth, and borrows the managers
+// of its vxChart, which gives it its rectangles before set-up.
+//
+// The façade reads every value through the chart: the data by series,
+// sub-value and item, positions through the axes, and label texts through
+// the chart's formats.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "charts/vxBaseChartDepthInfo.h"
+#include "charts/vxBaseChartParameters.h"
+#include "settings/vxErrorHolder.h"
+
+namespace Velarix {
+
+class vxAssign;
+class vxAxisItem;
+class vxDataManager;
+class vxAxisManager;
+class vxFormatSettings;
+class vxLayerManager;
+class vxStyleManager;
+
+class vxBaseChart : public vxErrorHolder {
+public:
+    // Types of the values a label shows.
+    enum LabelValueType : short { kNumber = 1, kCount = 2, kDateTime = 3 };
+
+    // `className` is a literal that outlives the chart.
+    explicit vxBaseChart(const wchar_t* className);
+    ~vxBaseChart() override;
+
+    virtual short getChartType() const { return parameters.getChartType(); }
+    virtual void setUp() = 0;
+    virtual void setUpLayers(vxLayerManager* layerMng) = 0;
+    // The chart's ...ChartOptions call.
+    virtual void setOptions(vxAssign& assign) {}
+    virtual void setDefaults();
+
+    void setManagers(vxDataManager* data, vxAxisManager* axes, vxStyleManager* styles);
+    void setFormatSettings(const vxFormatSettings* settings) { formatSettings = settings; }
+
+    vxBaseChartParameters& getParameters() { return parameters; }
+    const vxBaseChartParameters& getParameters() const { return parameters; }
+    vxBaseChartDepthInfo& getDepthInfo() { return depthInfo; }
+    const vxBaseChartDepthInfo& getDepthInfo() const { return depthInfo; }
+    vxDataManager* getDataManager() const { return dataManager; }
+    vxAxisManager* getAxisManager() const { return axisManager; }
+    vxStyleManager* getStyleManager() const { return styleManager; }
+
+    // ---- rectangles (left, top, right, bottom) ---------------------------
+    void setChartAreaBounds(const float rect[4]);
+    void setPlotBounds(const float rect[4]);
+    void setLimitBounds(const float rect[4]);
+    const float* getChartAreaBounds() const { return chartAreaBounds; }
+    const float* getPlotBounds() const { return plotBounds; }
+    const float* getLimitBounds() const { return limitBounds; }
+    const float* getExtendedPlotBounds() const { return extendedPlotBounds; }
+    const float* getShadowClipRect() const { return shadowClipRect; }
+    const float* getLabelClipRect() const { return labelClipRect; }
+    bool hasChartAreaBounds() const { return chartAreaBoundsSet; }
+    bool hasPlotBounds() const { return plotBoundsSet; }
+    // The plot grown by `half` (the widest stroke's half), by the depth and
+    // by one unit, within the limit bounds.
+    void setUpClipRect(float half);
+    // The clip of shadows from the shadow's offsets (left, top, right,
+    // bottom of the shadow rectangle).
+    void setUpShadowClipRect(const float shadowRect[4]);
+
+    // ---- values ------------------------------------------------------------
+    long getNumOfChartSeries() const;
+    long getNumOfItems(long series) const;
+    double getValue(long series, long subValue, long item) const;
+    bool isValidValue(long series, long subValue, long item) const;
+    double getStackedValue(long series, long item) const;
+    double getProportionalValue(long series, long item) const;
+    // Consecutive valid items of sub-value 0 from `firstItem` on.
+    long getNumOfValidValues(long series, long firstItem) const;
+    // One item in device units: sub-value 0 as x and `subValue` as y,
+    // exchanged on a horizontal chart; (0, 0) and false off a Cartesian
+    // chart or without axes.
+    bool getPointDC(long series, long subValue, long item, float out[2]) const;
+
+    // ---- axes ----------------------------------------------------------------
+    vxAxisItem* getXAxis() const;
+    vxAxisItem* getYAxis() const;
+    vxAxisItem* getIntervalAxis() const;
+    vxAxisItem* getValueAxis() const;
+    bool isXReversed() const;
+    bool isYReversed() const;
+    float getIntervalAxisLengthDC() const;
+    // The distance of two neighbouring intervals: of the first two series'
+    // first values when each series takes an interval, else of the first
+    // two items of the longest series; the axis's length with fewer.
+    float getIntervalWidthDC() const;
+    bool isInAxisRange(double value) const;
+    // A reference value a logarithmic value axis can't show moves onto it:
+    // to the axis's minimum, else 1, else the maximum over the base.
+    void setUpReferenceValue();
+
+    // ---- labels --------------------------------------------------------------
+    short getDefaultLabelLocation() const { return defaultLabelLocation; }
+    void setDefaultLabelLocation(short value) { defaultLabelLocation = value; }
+    short getDefaultLegendMarkerType() const { return defaultLegendMarkerType; }
+    void setDefaultLegendMarkerType(short value) { defaultLegendMarkerType = value; }
+    // A value in a label format; "DEFAULT_FORMAT" takes the plain form of
+    // numbers or the default form of the date. Another value type copies
+    // the format: it is a literal text. A format that doesn't parse raises
+    // its code at "/formatLabelString/1" (numbers, counts 2, dates 3).
+    std::wstring formatLabelString(short valueType, double value, const std::wstring& format);
+
+    virtual void dump(short depth, std::ostream& out) const;
+
+private:
+    vxBaseChartParameters parameters;
+    vxBaseChartDepthInfo depthInfo;
+    vxDataManager* dataManager = nullptr;
+    vxAxisManager* axisManager = nullptr;
+    vxStyleManager* styleManager = nullptr;
+    const vxFormatSettings* formatSettings = nullptr;
+    bool chartAreaBoundsSet = false;
+    float chartAreaBounds[4] = {};
+    bool plotBoundsSet = false;
+    float plotBounds[4] = {};
+    float limitBounds[4] = {};
+    float extendedPlotBounds[4] = {};
+    float shadowClipRect[4] = {};
+    float labelClipRect[4] = {};
+    short gridShape = 0;
+    short defaultLabelLocation = 3;
+    short defaultLegendMarkerType = 1;
+};
+
+}  // namespace Velarix
