@@ -111,6 +111,10 @@ void vxBaseChart::setUpShadowClipRect(const float shadowRect[4]) {
     intersect(s, limitBounds);
 }
 
+vxBaseChart::Look vxBaseChart::getAreaLook(long, long) const {
+    return Look();
+}
+
 void vxBaseChart::dump(short depth, std::ostream& out) const {
     if (depth <= 0) return;
     vxDumpHeader(out, vxNarrow(className));

@@ -24,6 +24,8 @@ class vxDataManager;
 class vxAxisManager;
 class vxFormatSettings;
 class vxLayerManager;
+class vxPaintOLD;
+class vxStrokeOLD;
 class vxStyleManager;
 
 class vxBaseChart : public vxErrorHolder {
@@ -102,6 +104,16 @@ public:
     // A reference value a logarithmic value axis can't show moves onto it:
     // to the axis's minimum, else 1, else the maximum over the base.
     void setUpReferenceValue();
+
+    // ---- looks ---------------------------------------------------------------
+    // The look of an item from the style manager; null where the style has
+    // no such part (or there is no style manager).
+    struct Look {
+        const vxPaintOLD* fill = nullptr;
+        const vxStrokeOLD* stroke = nullptr;
+        const vxPaintOLD* border = nullptr;
+    };
+    virtual Look getAreaLook(long series, long item) const;
 
     // ---- labels --------------------------------------------------------------
     short getDefaultLabelLocation() const { return defaultLabelLocation; }

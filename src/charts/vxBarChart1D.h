@@ -1,0 +1,90 @@
+// Bars, one per series and category, side by side or stacked, upright or
+// horizontal. The dimension step works out the width of a bar and of the
+// gaps from the interval axis; the geometry step fills four edge vectors and
+// a direction for every bar (index series * numOfCategories + item); the
+// layer step draws them so that later bars lie over earlier ones.
+//
+// The chart function gives, after the flags: the category gap and the
+// series gap in percent of a bar's width (100 and 0, or -100 when stacked),
+// the depth, and whether the depth is relative: then the first number is a
+// percentage of the bar width along the diagonal; otherwise the numbers
+// are the x and y depth and the tilt.
+#pragma once
+
+#include <vector>
+
+#include "charts/vxBaseChart.h"
+
+namespace Velarix {
+
+class vxLayer;
+
+class vxBarChart1D : public vxBaseChart {
+public:
+    // Which way a bar grows from its base to its value.
+    enum Direction : short { kUp = 1, kDown = 2, kToLeft = 3, kToRight = 4 };
+
+    vxBarChart1D();
+    explicit vxBarChart1D(const wchar_t* className);
+
+    // The chart function's arguments after the flags.
+    void assign(vxAssign& assign);
+    // BarChartOptions: connecting lines, reference value, split colours,
+    // whole-number bar widths.
+    void setOptions(vxAssign& assign) override;
+    void setDefaults() override;
+    void setUp() override;
+    void setUpLayers(vxLayerManager* layerMng) override;
+
+    // Bar width and gaps in device units; error 5010 when no width is left.
+    void setUpBarDimensions();
+    void setUpNonStackedBars();
+    void setUpStackedBars();
+    // A bar that exists and whose value is not 0.
+    bool isDrawable(long series, long item) const;
+
+    long getNumOfCategories() const { return numOfCategories; }
+    float getBarWidthDC() const { return barWidthDC; }
+    float getCategoryGapDC() const { return categoryGapDC; }
+    float getSeriesGapDC() const { return seriesGapDC; }
+    float getCategoryGapPercent() const { return categoryGapPercent; }
+    float getSeriesGapPercent() const { return seriesGapPercent; }
+    bool doShowConnectingLines() const { return showConnectingLines; }
+    bool doSplitColors() const { return splitColors; }
+    // The bar's rectangle (left, top, right, bottom); false for none.
+    bool getBarRect(long series, long item, float rect[4]) const;
+    short getBarDirection(long series, long item) const;
+
+    void dump(short depth, std::ostream& out) const override;
+
+protected:
+    // The distance of bar (s, c) from the position of 0 on the interval
+    // axis.
+    float offsetOf(long series, long item) const;
+    // Stores bar (s, c) between two positions on the value axis, whose
+    // interval range starts at `along`.
+    void storeBar(long series, long item, float along, float valueFrom, float valueTo, bool upward);
+    bool createBarVectors();
+    void addFlatBars(vxLayerManager& layerMng, long series);
+    void addDepthBars(vxLayerManager& layerMng);
+    void addBox(vxLayer& layer, long series, long item);
+    size_t indexOf(long series, long item) const {
+        return static_cast<size_t>(series * numOfCategories + item);
+    }
+
+    float categoryGapPercent = 100.0f;
+    float seriesGapPercent = 0.0f;
+    float depthPercent = 0.0f;
+    bool useRelativeDepth = true;
+    float barWidthDC = 0.0f;
+    float categoryGapDC = 0.0f;
+    float seriesGapDC = 0.0f;
+    long numOfCategories = 0;
+    std::vector<float> barLeftDC, barTopDC, barRightDC, barBottomDC;
+    std::vector<short> barDirections;  // 0: no bar
+    bool doForceIntegerBarWidth = false;
+    bool showConnectingLines = false;
+    bool splitColors = false;
+};
+
+}  // namespace Velarix

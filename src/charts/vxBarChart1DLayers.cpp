@@ -1,0 +1,136 @@
+// The bars on their layers: flat bars a layer per series, the last series
+// first; bars with depth in one layer, in an order by which a later bar
+// hides the side of an earlier one.
+#include <memory>
+
+#include "axes/vxAxisItem.h"
+#include "axes/vxAxisScaling.h"
+#include "charts/vxBarChart1D.h"
+#include "drawing/vxLayer.h"
+#include "drawing/vxLayerManager.h"
+#include "graphics/vxBasicStroke.h"
+#include "graphics/vxGObjectAppearanceOLD.h"
+#include "graphics/vxPaintOLD.h"
+#include "graphics/vxPath2DOLD.h"
+
+namespace Velarix {
+
+namespace {
+
+constexpr long kBarLayer = 5;
+
+// Faces of a box: corner indices of the projection and how much darker
+// than the front they are.
+struct Face {
+    int corners[4];
+    float darkening;
+};
+constexpr Face kTop{{7, 6, 2, 3}, 0.13f};
+constexpr Face kBottom{{4, 5, 1, 0}, 0.25f};
+constexpr Face kFront{{0, 1, 2, 3}, 0.0f};
+constexpr Face kBack{{4, 5, 6, 7}, 0.25f};
+constexpr Face kLeft{{4, 0, 3, 7}, 0.25f};
+constexpr Face kRight{{5, 1, 2, 6}, 0.25f};
+
+// A closed polygon in the look, darkened by a fraction.
+std::unique_ptr<vxPath2DOLD> polygon(const float* x, const float* y, const int* corners, int n,
+                                     const vxBaseChart::Look& look, float darkening) {
+    auto path = std::make_unique<vxPath2DOLD>();
+    for (int i = 0; i < n; ++i) {
+        const int k = corners ? corners[i] : i;
+        if (i == 0) {
+            path->moveTo(x[k], y[k]);
+        } else {
+            path->lineTo(x[k], y[k]);
+        }
+    }
+    path->close();
+    vxGObjectAppearanceOLD& appearance = *path->getAppearance();
+    if (look.fill) {
+        std::unique_ptr<vxPaintOLD> fill = look.fill->clone();
+        if (darkening > 0.0f) fill->darken(darkening);
+        appearance.setFillPaint(*fill);
+    }
+    if (look.border && look.stroke) {
+        std::unique_ptr<vxPaintOLD> border = look.border->clone();
+        if (darkening > 0.0f) border->darken(darkening);
+        appearance.setBorderPaint(*border);
+        appearance.setBorderStroke(*look.stroke);
+    }
+    return path;
+}
+
+}  // namespace
+
+void vxBarChart1D::setUpLayers(vxLayerManager* layerMng) {
+    if (!layerMng || isError()) return;
+    setUpClipRect(0.5f);
+    try {
+        if (getDepthInfo().isDepth()) {
+            addDepthBars(*layerMng);
+        } else {
+            for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s)
+                addFlatBars(*layerMng, s);
+        }
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"setUpLayers"));
+    }
+}
+
+void vxBarChart1D::addFlatBars(vxLayerManager& layerMng, long s) {
+    auto layer = std::make_unique<vxLayer>(kBarLayer, s, getPlotBounds());
+    for (long c = 0; c < numOfCategories; ++c) {
+        if (!isDrawable(s, c)) continue;
+        float r[4];
+        getBarRect(s, c, r);
+        const float x[4] = {r[0], r[2], r[2], r[0]};
+        const float y[4] = {r[3], r[3], r[1], r[1]};
+        layer->addShape(polygon(x, y, nullptr, 4, getAreaLook(s, c), 0.0f));
+    }
+    if (layer->isError()) return copyError(layer->getError());
+    layerMng.addLayer(std::move(layer));
+}
+
+// The items walk from the side the depth looks away from; each box shows
+// its side, its top and its front, or all six faces when its fill lets
+// light through.
+void vxBarChart1D::addDepthBars(vxLayerManager& layerMng) {
+    auto layer = std::make_unique<vxLayer>(kBarLayer, 0, getExtendedPlotBounds());
+    const bool xReversed = isXReversed();
+    const bool regular = getParameters().isHorizontal() ? isYReversed() : !xReversed;
+    const long nS = getNumOfChartSeries();
+    for (long k = 0; k < numOfCategories; ++k) {
+        const long c = regular ? k : numOfCategories - 1 - k;
+        for (long j = 0; j < nS; ++j) {
+            const long s = regular ? j : nS - 1 - j;
+            if (isDrawable(s, c)) addBox(*layer, s, c);
+        }
+    }
+    if (layer->isError()) return copyError(layer->getError());
+    layerMng.addLayer(std::move(layer));
+}
+
+void vxBarChart1D::addBox(vxLayer& layer, long s, long c) {
+    float r[4];
+    getBarRect(s, c, r);
+    float x[8], y[8];
+    getDepthInfo().project(r, 0.0f, 0.0f, x, y);
+    const Look look = getAreaLook(s, c);
+    const bool opaque = look.fill && look.fill->isOpaque();
+    const float angle = getDepthInfo().getDepthAngle();
+    const Face& side = (angle < 1.5707964f || angle > 4.712389f) ? kLeft : kRight;
+    const Face* faces[6];
+    int n = 0;
+    if (opaque) {
+        faces[n++] = &side;
+        faces[n++] = &kTop;
+        faces[n++] = &kFront;
+    } else {
+        for (const Face* f : {&kBack, &kLeft, &kBottom, &kRight, &kTop, &kFront}) faces[n++] = f;
+    }
+    for (int i = 0; i < n; ++i) {
+        layer.addShape(polygon(x, y, faces[i]->corners, 4, look, faces[i]->darkening));
+    }
+}
+
+}  // namespace Velarix

@@ -1,0 +1,124 @@
+// Bars laid out from the chart's axes: widths and gaps, edges beside each
+// other and in stacks, upright and horizontal, and the boxes of bars with
+// depth.
+#include "charts/vxBarChart1D.h"
+
+#include <gtest/gtest.h>
+
+#include "axes/vxAxisScaling.h"
+#include "axes/vxAxisTestSupport.h"
+#include "drawing/vxLayer.h"
+#include "drawing/vxLayerManager.h"
+#include "script/vxAssign.h"
+
+namespace Velarix::test {
+namespace {
+
+class BarChart : public ChartScript {
+protected:
+    // Lays the chart out, then sets the bars up with the chart function's
+    // arguments after the flags.
+    void layOut(const std::wstring& calls, std::vector<float> gaps = {},
+                std::vector<float> depth = {}) {
+        ASSERT_EQ(run(calls), 0) << message();
+        bars.getParameters().copyFrom(chart().getParameters());
+        bars.setManagers(chart().getDataManager(), chart().getAxisManager(), nullptr);
+        bars.setPlotBounds(chart().getPlotBounds());
+        vxAssign a;
+        for (float g : gaps) a.addFloat(g);
+        while (a.getNumOfArguments() < 2) a.addVoid();
+        if (depth.empty()) {
+            a.addVoid();
+        } else {
+            a.addFloatArray(depth);
+        }
+        bars.assign(a);
+        bars.setUp();
+        ASSERT_FALSE(bars.isError());
+    }
+    std::vector<float> rect(long s, long c) {
+        float r[4];
+        if (!bars.getBarRect(s, c, r)) return {};
+        return {r[0], r[1], r[2], r[3]};
+    }
+    vxBarChart1D bars;
+};
+
+TEST_F(BarChart, WidthsAndGapsShareTheIntervalAxis) {
+    // Three series of four: 12 bars and 4 gaps of one bar width share the
+    // axis of 0 to 4; the first bar starts half a gap from its start.
+    layOut(L"BarChart()\nChartData(1 2 3 4; 2 3 4 5; 3 4 5 6)\n");
+    const float length = bars.getIntervalAxisLengthDC();
+    EXPECT_NEAR(bars.getBarWidthDC(), length / 16, 1e-4);
+    EXPECT_NEAR(bars.getCategoryGapDC(), bars.getBarWidthDC(), 1e-4);
+    const float left = chart().getPlotBounds()[0];
+    EXPECT_NEAR(rect(0, 0)[0], left + bars.getBarWidthDC() / 2, 1e-3);
+    EXPECT_NEAR(rect(1, 0)[0], rect(0, 0)[2], 1e-3);
+    EXPECT_NEAR(rect(0, 1)[0] - rect(2, 0)[2], bars.getBarWidthDC(), 1e-3);
+    // Upright bars stand on the reference value, 0, and reach their value.
+    EXPECT_FLOAT_EQ(rect(2, 3)[3], axis(1).toDC(0));
+    EXPECT_FLOAT_EQ(rect(2, 3)[1], axis(1).toDC(6));
+    EXPECT_EQ(bars.getBarDirection(2, 3), vxBarChart1D::kUp);
+
+    // Gaps of the script: none between categories, half a bar between series.
+    layOut(L"BarChart()\nChartData(1 2; 2 3)\n", {0, 50});
+    EXPECT_NEAR(bars.getBarWidthDC(), bars.getIntervalAxisLengthDC() / 5, 1e-3);
+    EXPECT_NEAR(rect(1, 0)[0] - rect(0, 0)[2], bars.getBarWidthDC() / 2, 1e-3);
+}
+
+TEST_F(BarChart, NegativeValuesHangAndEmptyValuesAreNoBars) {
+    layOut(L"BarChart()\nChartData(-5 null 0 8)\n");
+    EXPECT_EQ(bars.getBarDirection(0, 0), vxBarChart1D::kDown);
+    EXPECT_FLOAT_EQ(rect(0, 0)[1], axis(1).toDC(0));
+    EXPECT_FLOAT_EQ(rect(0, 0)[3], axis(1).toDC(-5));
+    EXPECT_TRUE(rect(0, 1).empty());
+    EXPECT_FALSE(bars.isDrawable(0, 1));
+    EXPECT_FALSE(bars.isDrawable(0, 2));  // a value of 0 draws nothing
+    EXPECT_TRUE(bars.isDrawable(0, 3));
+}
+
+TEST_F(BarChart, StacksGrowFromTheReferenceBothWays) {
+    layOut(L"BarChart(stacked)\nChartData(10 -4; 5 -6; -3 2)\n");
+    EXPECT_FLOAT_EQ(bars.getSeriesGapPercent(), -100);
+    // Category 1: 10 then 5 upward, -3 downward; all share one place.
+    EXPECT_FLOAT_EQ(rect(0, 0)[3], axis(1).toDC(0));
+    EXPECT_FLOAT_EQ(rect(0, 0)[1], axis(1).toDC(10));
+    EXPECT_FLOAT_EQ(rect(1, 0)[3], axis(1).toDC(10));
+    EXPECT_FLOAT_EQ(rect(1, 0)[1], axis(1).toDC(15));
+    EXPECT_FLOAT_EQ(rect(2, 0)[1], axis(1).toDC(0));
+    EXPECT_FLOAT_EQ(rect(2, 0)[3], axis(1).toDC(-3));
+    EXPECT_EQ(rect(0, 0)[0], rect(2, 0)[0]);
+    // Category 2: -4 and -6 downward, 2 upward.
+    EXPECT_FLOAT_EQ(rect(1, 1)[1], axis(1).toDC(-4));
+    EXPECT_FLOAT_EQ(rect(1, 1)[3], axis(1).toDC(-10));
+    EXPECT_EQ(bars.getBarDirection(2, 1), vxBarChart1D::kUp);
+}
+
+TEST_F(BarChart, HorizontalBarsRunAlongX) {
+    layOut(L"BarChart(horizontal)\nChartData(3 6)\n");
+    EXPECT_FLOAT_EQ(rect(0, 1)[0], axis(0).toDC(0));
+    EXPECT_FLOAT_EQ(rect(0, 1)[2], axis(0).toDC(6));
+    EXPECT_EQ(bars.getBarDirection(0, 1), vxBarChart1D::kToRight);
+    // The first category stands at the bottom of the upward axis.
+    EXPECT_GT(rect(0, 0)[1], rect(0, 1)[1]);
+}
+
+TEST_F(BarChart, BoxesOfBarsWithDepth) {
+    // A relative depth of 100 is one bar width along the diagonal.
+    layOut(L"BarChart()\nChartData(3 6)\n", {}, {100});
+    const vxBaseChartDepthInfo& depth = bars.getDepthInfo();
+    EXPECT_NEAR(depth.getDepth(), bars.getBarWidthDC(), bars.getBarWidthDC() * 1e-3);
+    vxLayerManager layers;
+    bars.setUpLayers(&layers);
+    ASSERT_EQ(layers.getNumOfLayers(), 1);
+    // Without a style the fill lets light through: six faces a bar.
+    EXPECT_EQ(layers.getLayer(0)->getNumOfShapes(), 12);
+    // Flat bars: a layer a series.
+    layOut(L"BarChart()\nChartData(3 6; 4 5)\n");
+    vxLayerManager flat;
+    bars.setUpLayers(&flat);
+    EXPECT_EQ(flat.getNumOfLayers(), 2);
+}
+
+}  // namespace
+}  // namespace Velarix::test
