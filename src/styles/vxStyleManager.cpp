@@ -168,6 +168,7 @@ bool vxStyleManager::copyRecords(Records<T>& to, const Records<T>& from) {
 }
 
 bool vxStyleManager::set(const vxStyleManager* from) {
+    if (from == this) return !isError();
     clear();
     if (!from || isError()) return !isError();
     try {

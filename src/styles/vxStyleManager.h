@@ -16,7 +16,8 @@
 // A style call begins with a selection: the series ("stacked" -1, "all"
 // 0; left out, "all"), then item numbers. By the selection:
 //   - stacked: the label style of a stack's total, made on the first call
-//     as a copy of the default label style; only label calls allow it;
+//     as a copy of the default label style; only label calls allow it,
+//     any other is error 1120 at "vxStyleManager/assign/1";
 //   - all: every default, every record of the script and the stacked
 //     label style take the call;
 //   - all with items: the call goes, with the items, to each series that
@@ -130,6 +131,7 @@ private:
     void assignStacked(vxAssign& a);
     void assignLabelBackgroundOptions(vxAssign& a);
     bool tooManyStyles();
+    void raiseOutOfRange(const vxAssign& a);
     bool isLabelCall(long fn) const;
 
     vxUserSettings* owner;  // not owned

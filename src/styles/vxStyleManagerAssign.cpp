@@ -29,8 +29,8 @@ void vxStyleManager::assign(vxAssign& a) {
     const long series = getIndices(a, items);
     if (isError()) return;
     if (series == kStacked) {
-        if (isLabelCall(fn)) assignStacked(a);
-        return;
+        if (isLabelCall(fn)) return assignStacked(a);
+        return raiseOutOfRange(a);
     }
     switch (fn) {
         case kBarStyle:
@@ -71,6 +71,14 @@ long vxStyleManager::getIndices(vxAssign& a, std::vector<long>& items) {
     return series;
 }
 
+// The reader lets the word "stacked" pass for every style call; only the
+// label calls take it.
+void vxStyleManager::raiseOutOfRange(const vxAssign& a) {
+    setError(vxErrScript::kOutOfRange, where(L"assign"));
+    const vxAssign::CallPlace& place = a.getCallPlace();
+    if (error && place.line > 0) error->setCallPlace(place.line, place.fnName, place.scriptPart);
+}
+
 bool vxStyleManager::isLabelCall(long fn) const {
     return fn == kLabelStyle || fn == kLabelOptions || fn == kLabelTexts ||
            fn == kLabelBackground || fn == kLabelBackgroundOptions;
@@ -96,8 +104,10 @@ void vxStyleManager::assignKind(Records<T>& records, vxAssign& a, long series,
     }
     std::sort(named.begin(), named.end());
     named.erase(std::unique(named.begin(), named.end()), named.end());
+    const long offset = a.getArgumentOffset();
     for (long each : named) {
         if (isError()) return;
+        a.addToArgumentOffset(offset - a.getArgumentOffset());
         assignSeries(records, a, each, items, addMethod);
     }
 }
