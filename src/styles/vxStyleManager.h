@@ -11,7 +11,8 @@
 //   1. the script's record for s whose items hold i;
 //   2. the script's record for the whole of s;
 //   3. the default (s - 1) modulo the number of defaults of the kind, so
-//      that series 13 has the symbol of series 1 and series 17 its fill.
+//      that series 13 has the symbol of series 1 and series 17 its fill;
+//      a series below 1 takes the first default.
 //
 // A style call begins with a selection: the series ("stacked" -1, "all"
 // 0; left out, "all"), then item numbers. By the selection:
