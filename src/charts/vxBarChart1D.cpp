@@ -6,6 +6,7 @@
 #include "axes/vxAxisScaling.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
+#include "script/vxFunctionIds.h"
 
 namespace Velarix {
 
@@ -45,11 +46,13 @@ void vxBarChart1D::assign(vxAssign& a) {
         depthPercent = depth.empty() ? 0.0f : depth[0];
     } else {
         getDepthInfo().assignDepth(a);
+        recede();
     }
     a.addToArgumentOffset(-2);
 }
 
 void vxBarChart1D::setOptions(vxAssign& a) {
+    if (a.getFunction() != kBarChartOptions) return;
     showConnectingLines = a.getBool(0, showConnectingLines);
     if (!a.isVoid(1)) {
         getParameters().setHasReferenceValue(true);
@@ -91,7 +94,15 @@ void vxBarChart1D::setUpBarDimensions() {
     if (useRelativeDepth) {
         const float d = barWidthDC * kDiagonalPercent * depthPercent;
         getDepthInfo().setDepth(d, d);
+        recede();
     }
+}
+
+// The script's depths are distances: the back of a box lies up and to the
+// right of its front, which the projection reads as negative depths.
+void vxBarChart1D::recede() {
+    vxBaseChartDepthInfo& depth = getDepthInfo();
+    depth.setDepth(-std::fabs(depth.getXDepth()), -std::fabs(depth.getYDepth()));
 }
 
 float vxBarChart1D::offsetOf(long s, long c) const {

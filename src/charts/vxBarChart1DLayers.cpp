@@ -1,7 +1,9 @@
 // The bars on their layers: flat bars a layer per series, the last series
 // first; bars with depth in one layer, in an order by which a later bar
 // hides the side of an earlier one.
+#include <algorithm>
 #include <memory>
+#include <vector>
 
 #include "axes/vxAxisItem.h"
 #include "axes/vxAxisScaling.h"
@@ -79,6 +81,7 @@ void vxBarChart1D::setUpLayers(vxLayerManager* layerMng) {
 
 void vxBarChart1D::addFlatBars(vxLayerManager& layerMng, long s) {
     auto layer = std::make_unique<vxLayer>(kBarLayer, s, getPlotBounds());
+    layer->addClipShape(nullptr);
     for (long c = 0; c < numOfCategories; ++c) {
         if (!isDrawable(s, c)) continue;
         float r[4];
@@ -91,21 +94,32 @@ void vxBarChart1D::addFlatBars(vxLayerManager& layerMng, long s) {
     layerMng.addLayer(std::move(layer));
 }
 
-// The items walk from the side the depth looks away from; each box shows
-// its side, its top and its front, or all six faces when its fill lets
-// light through.
+// The boxes recede up and to the right, so a box hides parts of those on
+// its left and below it: they are painted first. Upright bars go column by
+// column from the left, each column from the bottom; horizontal bars row by
+// row from the bottom, each row from the left. Each box shows its side, its
+// top and its front, or all six faces when its fill lets light through.
 void vxBarChart1D::addDepthBars(vxLayerManager& layerMng) {
     auto layer = std::make_unique<vxLayer>(kBarLayer, 0, getExtendedPlotBounds());
-    const bool xReversed = isXReversed();
-    const bool regular = getParameters().isHorizontal() ? isYReversed() : !xReversed;
-    const long nS = getNumOfChartSeries();
-    for (long k = 0; k < numOfCategories; ++k) {
-        const long c = regular ? k : numOfCategories - 1 - k;
-        for (long j = 0; j < nS; ++j) {
-            const long s = regular ? j : nS - 1 - j;
-            if (isDrawable(s, c)) addBox(*layer, s, c);
+    layer->addClipShape(nullptr);
+    struct Bar {
+        float left, bottom;
+        long s, c;
+    };
+    std::vector<Bar> order;
+    for (long s = 0; s < getNumOfChartSeries(); ++s) {
+        for (long c = 0; c < numOfCategories; ++c) {
+            float r[4];
+            if (isDrawable(s, c) && getBarRect(s, c, r)) order.push_back({r[0], r[3], s, c});
         }
     }
+    const bool rows = getParameters().isHorizontal();
+    std::stable_sort(order.begin(), order.end(), [rows](const Bar& a, const Bar& b) {
+        if (rows && a.bottom != b.bottom) return a.bottom > b.bottom;
+        if (a.left != b.left) return a.left < b.left;
+        return a.bottom > b.bottom;
+    });
+    for (const Bar& bar : order) addBox(*layer, bar.s, bar.c);
     if (layer->isError()) return copyError(layer->getError());
     layerMng.addLayer(std::move(layer));
 }

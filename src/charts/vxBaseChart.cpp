@@ -4,6 +4,9 @@
 #include <cmath>
 
 #include "host/vxLog.h"
+#include "styles/vxBorderStyle.h"
+#include "styles/vxFillStyle.h"
+#include "styles/vxStyleManager.h"
 
 namespace Velarix {
 
@@ -111,8 +114,18 @@ void vxBaseChart::setUpShadowClipRect(const float shadowRect[4]) {
     intersect(s, limitBounds);
 }
 
-vxBaseChart::Look vxBaseChart::getAreaLook(long, long) const {
-    return Look();
+// Charts count series and items from 0, the styles from 1.
+vxBaseChart::Look vxBaseChart::getAreaLook(long series, long item) const {
+    Look look;
+    if (!styleManager) return look;
+    if (const vxFillStyle* fill = styleManager->getFillStyle(series + 1, item + 1)) {
+        look.fill = fill->getPaint();
+    }
+    if (const vxBorderStyle* border = styleManager->getBorderStyle(series + 1, item + 1)) {
+        look.stroke = border->getStroke();
+        look.border = border->getPaint();
+    }
+    return look;
 }
 
 void vxBaseChart::dump(short depth, std::ostream& out) const {

@@ -1,6 +1,7 @@
 #include "drawing/vxChart.h"
 
 #include "axes/vxAxisManager.h"
+#include "charts/vxBarChart1D.h"
 #include "charts/vxBaseChartParameters.h"
 #include "charts/vxChartTypeTable.h"
 #include "data/vxDataManager.h"
@@ -10,11 +11,17 @@
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
+#include "settings/vxUserSettings.h"
+#include "styles/vxStyleManager.h"
 
 namespace Velarix {
 
+// A chart always has its style manager.
 vxChart::vxChart(vxUserSettings* owner, const float frame[4], bool hasFixedPlotArea)
-    : vxComponent(L"vxChart", owner, frame), fixedPlotArea(hasFixedPlotArea) {}
+    : vxComponent(L"vxChart", owner, frame), fixedPlotArea(hasFixedPlotArea) {
+    if (!create(styleManager, L"createStyleManager", owner)) return;
+    if (styleManager->isError()) copyError(styleManager->getError());
+}
 
 vxChart::~vxChart() = default;
 
@@ -30,6 +37,8 @@ void vxChart::assign(vxAssign& a) {
             return assignData(a);
         case kGroupAxes:
             return assignAxes(a);
+        case kGroupStyles:
+            return assignStyle(a);
         default:
             return;
     }
@@ -39,12 +48,48 @@ void vxChart::setChart(vxAssign& a) {
     chartFunction = a.getFunction();
     if (!create(parameters, L"setChart")) return;
     vxSetUpChartParameters(chartFunction, a, *parameters);
+    createChart(a);
+}
+
+// The chart class of the chart function, given the parameters and the
+// function's own arguments; the chart kinds without a class yet draw their
+// axes only.
+void vxChart::createChart(vxAssign& a) {
+    chartType.reset();
+    if (chartFunction != kBarChart1D) return;
+    std::unique_ptr<vxBarChart1D> bars;
+    if (!create(bars, L"createChart")) return;
+    bars->getParameters().copyFrom(parameters.get());
+    a.addToArgumentOffset(1);
+    bars->assign(a);
+    a.addToArgumentOffset(-1);
+    chartType = std::move(bars);
+}
+
+void vxChart::assignChartOptions(vxAssign& a) {
+    if (chartFunction < 0) {
+        return setError(vxErrLayout::kNoChartFunction, where(L"assignChartOptions"));
+    }
+    if (!chartType) return;
+    // Options may set the reference value, which the axes' spans read.
+    chartType->setOptions(a);
+    parameters->copyFrom(&chartType->getParameters());
 }
 
 void vxChart::assignData(vxAssign& a) {
     if (!dataManager && !create(dataManager, L"createDataManager", getOwnerSettings())) return;
     dataManager->assign(a);
     if (dataManager->isError()) copyError(dataManager->getError());
+}
+
+// A style error names the call.
+void vxChart::assignStyle(vxAssign& a) {
+    if (!styleManager) return;
+    styleManager->assign(a);
+    if (!styleManager->isError()) return;
+    copyError(styleManager->getError());
+    const vxAssign::CallPlace& place = a.getCallPlace();
+    if (error && place.line > 0) error->setCallPlace(place.line, place.fnName, place.scriptPart);
 }
 
 void vxChart::assignAxes(vxAssign& a) {
@@ -61,6 +106,21 @@ void vxChart::setUp(const float bounds[4]) {
     }
     setUpSeries();
     if (!isError() && doRecalcBounds) setUpBounds();
+    if (!isError()) setUpChartType();
+}
+
+// The chart class gets the managers and the rectangles, then sets up its
+// shapes.
+void vxChart::setUpChartType() {
+    if (!chartType) return;
+    chartType->setManagers(dataManager.get(), axisManager.get(), styleManager.get());
+    vxUserSettings* settings = getOwnerSettings();
+    chartType->setFormatSettings(settings ? settings->getFormatSettings() : nullptr);
+    chartType->setPlotBounds(plotBounds);
+    chartType->setChartAreaBounds(chartBounds);
+    chartType->setLimitBounds(viewBounds);
+    chartType->setUp();
+    if (chartType->isError()) copyError(chartType->getError());
 }
 
 // 1. The data manager reads the series for the chart type.
@@ -81,10 +141,6 @@ bool vxChart::hasChartCalls() const {
         if (group != kGroupPrimitives && count > 0) return true;
     }
     return false;
-}
-
-void vxChart::assignChartOptions(vxAssign&) {
-    if (chartFunction < 0) setError(vxErrLayout::kNoChartFunction, where(L"assignChartOptions"));
 }
 
 bool vxChart::tooManyAdditions() {
@@ -113,7 +169,12 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (isError() || !axisManager || !hasAxes()) return;
     const float* clip = layerMng->getCurrentClipRect();
     axisManager->setUpLayers(layerMng, clip, false);
-    if (!axisManager->isError()) axisManager->setUpLayers(layerMng, clip, true);
+    if (axisManager->isError()) return copyError(axisManager->getError());
+    if (chartType) {
+        chartType->setUpLayers(layerMng);
+        if (chartType->isError()) return copyError(chartType->getError());
+    }
+    axisManager->setUpLayers(layerMng, clip, true);
     if (axisManager->isError()) copyError(axisManager->getError());
 }
 

@@ -12,6 +12,8 @@
 namespace Velarix {
 
 class vxAxisManager;
+class vxBaseChart;
+class vxStyleManager;
 class vxBaseChartParameters;
 class vxDataManager;
 
@@ -41,6 +43,10 @@ public:
     const vxBaseChartParameters* getParameters() const { return parameters.get(); }
     vxDataManager* getDataManager() const { return dataManager.get(); }
     vxAxisManager* getAxisManager() const { return axisManager.get(); }
+    // The chart class of the chart function; null for kinds drawn by their
+    // axes only.
+    vxBaseChart* getChartType() const { return chartType.get(); }
+    vxStyleManager* getStyleManager() const { return styleManager.get(); }
     const float* getChartBounds() const { return chartBounds; }
     const float* getGraphBounds() const { return graphBounds; }
     const float* getPlotBounds() const { return plotBounds; }
@@ -54,10 +60,13 @@ public:
 
 private:
     void setChart(vxAssign& assign);
+    void createChart(vxAssign& assign);
+    void setUpChartType();
     void assignChartOptions(vxAssign& assign);
     void assignData(vxAssign& assign);
     void setUpSeries();
     void assignAxes(vxAssign& assign);
+    void assignStyle(vxAssign& assign);
     void setUpAdditionLayers(vxLayerManager* layerMng);
     // The rectangles of the chart, from its frame inward (vxChartBounds.cpp).
     void setUpBounds();
@@ -89,6 +98,8 @@ private:
     std::unique_ptr<vxBaseChartParameters> parameters;
     std::unique_ptr<vxDataManager> dataManager;
     std::unique_ptr<vxAxisManager> axisManager;
+    std::unique_ptr<vxBaseChart> chartType;
+    std::unique_ptr<vxStyleManager> styleManager;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};

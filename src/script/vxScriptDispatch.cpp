@@ -28,8 +28,10 @@ void vxScript::dispatch() {
         case kGroupMisc:
             return dispatchMisc();
         case kGroupAxes:
+        case kGroupStyles:
             // Scales are checked against the data only when the chart is
-            // laid out; the call's place goes with it.
+            // laid out, and styles check their selection; the call's place
+            // goes with them.
             assign->setCallPlace({callLine, fnName, errScriptPart(callBegin, closePos + 1)});
             return dispatchToView();
         default:

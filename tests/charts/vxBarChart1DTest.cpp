@@ -111,8 +111,9 @@ TEST_F(BarChart, BoxesOfBarsWithDepth) {
     vxLayerManager layers;
     bars.setUpLayers(&layers);
     ASSERT_EQ(layers.getNumOfLayers(), 1);
-    // Without a style the fill lets light through: six faces a bar.
-    EXPECT_EQ(layers.getLayer(0)->getNumOfShapes(), 12);
+    // Without a style the fill lets light through: six faces a bar, after
+    // the layer's clip.
+    EXPECT_EQ(layers.getLayer(0)->getNumOfShapes(), 1 + 12);
     // Flat bars: a layer a series.
     layOut(L"BarChart()\nChartData(3 6; 4 5)\n");
     vxLayerManager flat;

@@ -97,7 +97,7 @@ TEST_F(Reader, ArraysColoursAndSeriesLists) {
     EXPECT_EQ(read(L"AddRect(1; 2; 3; 4; 5)").getFloatArray(4), (std::vector<float>{5}));
     EXPECT_EQ(read(L"AddRect(1; 2; 3; 4; 1 2 3 4)").getFloatArray(4),
               (std::vector<float>{1, 2, 3, 4}));
-    EXPECT_EQ(read(L"FillStyle(stacked; red)").getLongArray(0), (std::vector<long>{-1}));
+    EXPECT_EQ(read(L"LabelStyle(stacked; ; 12)").getLongArray(0), (std::vector<long>{-1}));
     EXPECT_EQ(read(L"FillStyle(1 -5 7; red)").getLongArray(0), (std::vector<long>{1, -5, 7}));
     EXPECT_EQ(read(L"LineStyle(all; jump 1 2 0.5 1)").getFloatArray(1),
               (std::vector<float>{1, 1, 2, 0.5f, 1}));

@@ -64,9 +64,9 @@ protected:
 
     vxUserSettings settings{L"", L"", 1, 1};
     vxDrawingSpecs specs;
-    vxView view{&settings};
     vxOutputWIN output;
-    vxScript script{&settings, &specs, &view, &output};
+    // No view: the calls are read, and reach only the manager of the test.
+    vxScript script{&settings, &specs, nullptr, &output};
     vxStyleManager manager{&settings};
 };
 
