@@ -18,6 +18,8 @@
 namespace Velarix::test {
 namespace {
 
+using namespace pdf;
+
 namespace fs = std::filesystem;
 
 // Fills with alpha and a texture pattern, outlines, dashes, an oval, a

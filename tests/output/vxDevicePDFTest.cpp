@@ -19,6 +19,8 @@
 namespace Velarix::test {
 namespace {
 
+using namespace pdf;
+
 std::string goldenPath(const std::string& name) {
     return std::string(VELARIX_TEST_DATA_DIR) + "/output/golden/" + name;
 }

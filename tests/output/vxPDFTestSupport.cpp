@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-namespace Velarix::test {
+namespace Velarix::test::pdf {
 
 namespace {
 
@@ -90,4 +90,4 @@ bool hasProgram(const std::string& name) {
     return std::system(("command -v " + name + " > /dev/null 2>&1").c_str()) == 0;
 }
 
-}  // namespace Velarix::test
+}  // namespace Velarix::test::pdf

@@ -12,7 +12,7 @@
 #include "graphics/vxBasicStroke.h"
 #include "output/vxDevicePDF.h"
 
-namespace Velarix::test {
+namespace Velarix::test::pdf {
 
 inline std::unique_ptr<vxBasicPaint> rgba(short r, short g, short b, short a = 255,
                                           short pattern = 0) {
@@ -77,4 +77,4 @@ std::string streamOf(const std::string& object);
 // Whether a program runs here, for the checks with real readers.
 bool hasProgram(const std::string& name);
 
-}  // namespace Velarix::test
+}  // namespace Velarix::test::pdf
