@@ -3,7 +3,6 @@
 #include "output/vxDeviceGDIPlus.h"
 
 #include <cmath>
-#include <new>
 
 #include "host/vxLog.h"
 #include "output/vxWriteExternal.h"
@@ -45,26 +44,15 @@ void vxDeviceGDIPlus::addTarget(short targetType) {
         targetType != kTargetStream) {
         return;
     }
-    try {
-        targets.push_back(vxWriteExternal::makeTarget(targetType));
-    } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, where(L"addTarget"));
-        return;
-    }
-    vxWriteExternal& target = *targets.back();
-    if (target.isError()) {
-        copyError(target.getError());
-    } else {
-        target.setFormat(kFormatNone);
-    }
+    targets.add(targetType, *this);
 }
 
 long vxDeviceGDIPlus::getNumOfTargets() const {
-    return static_cast<long>(targets.size());
+    return targets.size();
 }
 
 vxWriteExternal* vxDeviceGDIPlus::getLastTarget() const {
-    return targets.empty() ? nullptr : targets.back().get();
+    return targets.last();
 }
 
 void vxDeviceGDIPlus::setUp(const vxDrawingSpecs& specs) {
@@ -209,11 +197,7 @@ void vxDeviceGDIPlus::writeTargets() {
 // A stream target gets the bytes of the picture at once; a file is opened
 // at the first byte and written piece by piece as the encoder makes them.
 bool vxDeviceGDIPlus::writeTarget(vxWriteExternal& target) {
-    auto failed = [&] {
-        if (!target.isError()) return false;
-        copyError(target.getError());
-        return true;
-    };
+    auto failed = [&] { return vxDeviceTargets::takeFault(target, *this); };
     if (target.getType() == kTargetStream) {
         std::vector<unsigned char> bytes;
         if (!encode(target, [&](const unsigned char* data, size_t length) {
@@ -330,7 +314,7 @@ void vxDeviceGDIPlus::dump(short depth, std::ostream& out) const {
                static_cast<float>(pixelHeight));
     vxDumpLine(out, "short textAntialiasing: ", textAntialiasing);
     vxDumpLine(out, "Num of streams: ", getNumOfStreams());
-    for (const auto& target : targets) target->dump(static_cast<short>(depth - 1), out);
+    targets.dump(static_cast<short>(depth - 1), out);
 }
 
 }  // namespace Velarix

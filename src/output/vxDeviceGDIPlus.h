@@ -47,6 +47,7 @@
 #include "output/vxCairoPictures.h"
 #include "output/vxCairoPointers.h"
 #include "output/vxDevice.h"
+#include "output/vxDeviceTargets.h"
 #include "platform/vxImageEncoder.h"
 
 namespace Velarix {
@@ -247,7 +248,7 @@ private:
     void addSymbolOutline(short shape, float size, float x, float y);
 
     const vxUserSettings* userSettings;  // not owned
-    std::vector<std::unique_ptr<vxWriteExternal>> targets;
+    vxDeviceTargets targets;
     // The route of the current run, fixed when the device opens.
     bool isBitmapRoute = false;
     int pixelWidth = 0;

@@ -1,7 +1,5 @@
 #include "output/vxDeviceSVG.h"
 
-#include <new>
-
 #include "host/vxLog.h"
 #include "output/vxNumberWriter.h"
 #include "output/vxWriteExternal.h"
@@ -15,26 +13,15 @@ vxDeviceSVG::~vxDeviceSVG() = default;
 
 void vxDeviceSVG::addTarget(short targetType) {
     if (targetType != kTargetClipboard && targetType != kTargetFile) return;
-    try {
-        targets.push_back(vxWriteExternal::makeTarget(targetType));
-    } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, where(L"addTarget"));
-        return;
-    }
-    vxWriteExternal& target = *targets.back();
-    if (target.isError()) {
-        copyError(target.getError());
-    } else {
-        target.setFormat(kFormatNone);
-    }
+    targets.add(targetType, *this);
 }
 
 long vxDeviceSVG::getNumOfTargets() const {
-    return static_cast<long>(targets.size());
+    return targets.size();
 }
 
 vxWriteExternal* vxDeviceSVG::getLastTarget() const {
-    return targets.empty() ? nullptr : targets.back().get();
+    return targets.last();
 }
 
 void vxDeviceSVG::open() {
@@ -62,23 +49,8 @@ void vxDeviceSVG::writeTargets() {
     for (const auto& target : targets) {
         const short type = target->getType();
         if (type != kTargetClipboard && type != kTargetFile) continue;
-        if (!writeTarget(*target)) return;
+        if (!vxDeviceTargets::writeText(*target, *this, document)) return;
     }
-}
-
-// Open, write, close, each step followed by the test of the target's error.
-bool vxDeviceSVG::writeTarget(vxWriteExternal& target) {
-    auto failed = [&] {
-        if (!target.isError()) return false;
-        copyError(target.getError());
-        return true;
-    };
-    target.open();
-    if (failed()) return false;
-    target.writeString(document);
-    if (failed()) return false;
-    target.close();
-    return !failed();
 }
 
 void vxDeviceSVG::resetClipRegion() {
@@ -115,7 +87,7 @@ void vxDeviceSVG::dump(short depth, std::ostream& out) const {
     vxDumpLine(out, "wstring title:       ", title);
     vxDumpLine(out, "wstring description: ", description);
     vxDumpLine(out, "wstring comment:     ", comment);
-    for (const auto& target : targets) target->dump(static_cast<short>(depth - 1), out);
+    targets.dump(static_cast<short>(depth - 1), out);
 }
 
 }  // namespace Velarix

@@ -41,6 +41,7 @@
 #include <vector>
 
 #include "output/vxDevice.h"
+#include "output/vxDeviceTargets.h"
 
 namespace Velarix {
 
@@ -217,10 +218,9 @@ private:
     static std::wstring characterReferences(const std::wstring& line);
 
     void writeTargets();
-    bool writeTarget(vxWriteExternal& target);
 
     const vxUserSettings* userSettings;  // not owned
-    std::vector<std::unique_ptr<vxWriteExternal>> targets;
+    vxDeviceTargets targets;
     std::wstring document;
     std::wstring title;
     std::wstring description;

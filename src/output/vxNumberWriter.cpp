@@ -60,6 +60,13 @@ std::wstring fixedW(double value, int decimals) {
     return widen(fixed(value, decimals));
 }
 
+std::string pdf(double value) {
+    if (!(std::fabs(value) >= 1e-6)) return "0";
+    std::string text = general(value);
+    if (text.find('e') != std::string::npos) text = fixed(value, 6);
+    return text;
+}
+
 void append(std::wstring& out, double value) {
     const std::string text = general(value);
     out.append(text.begin(), text.end());

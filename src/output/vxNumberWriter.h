@@ -25,6 +25,11 @@ std::string fixed(double value, int decimals);
 std::wstring generalW(double value, int precision = 6);
 std::wstring fixedW(double value, int decimals);
 
+// The form of PDF files: 0 for a magnitude below 1e-6, else the general
+// form with six digits, or the fixed form with six decimals where the
+// general one would have an exponent ("1234567.000000").
+std::string pdf(double value);
+
 // Appends the general form with six digits.
 void append(std::wstring& out, double value);
 void append(std::string& out, double value);

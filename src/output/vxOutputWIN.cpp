@@ -5,6 +5,7 @@
 #include "host/vxLog.h"
 #include "output/vxDevice.h"
 #include "output/vxDeviceGDIPlus.h"
+#include "output/vxDevicePDF.h"
 #include "output/vxDeviceSVG.h"
 #include "output/vxExternal.h"
 #include "output/vxWriteExternal.h"
@@ -87,6 +88,7 @@ vxDevice* vxOutputWIN::addDevice(short deviceID) {
     std::unique_ptr<vxDevice> device;
     try {
         if (deviceID == vxDevice::kSVG) device = std::make_unique<vxDeviceSVG>(userSettings);
+        if (deviceID == vxDevice::kPDF) device = std::make_unique<vxDevicePDF>(userSettings);
         if (deviceID == vxDevice::kGDIPlus) {
             device = std::make_unique<vxDeviceGDIPlus>(userSettings);
         }
@@ -149,9 +151,27 @@ void vxOutputWIN::setMetadata(vxDevice& device, const vxAssign& a, short format)
     }
 }
 
+// A drawing that goes back to the host as its picture gets a PDF device
+// with a stream target, unless the script made one already.
 void vxOutputWIN::setUp(const vxDrawingSpecs* specs) {
     if (!specs) return;
+    if (specs->getRenderingInfo() == kHostTarget) addHostStream();
+    if (isError()) return;
     for (auto& device : devices) device->setUp(*specs);
+}
+
+void vxOutputWIN::addHostStream() {
+    for (const auto& device : devices) {
+        if (device->getDeviceID() != vxDevice::kPDF) continue;
+        for (long i = 0; i < device->getNumOfStreams(); ++i) {
+            if (device->getStream(i)) return;
+        }
+    }
+    vxDevice* device = addDevice(vxDevice::kPDF);
+    if (!device) return;
+    device->addTarget(kTargetStream);
+    if (device->isError()) return copyError(device->getError());
+    if (vxWriteExternal* target = device->getLastTarget()) target->setFormat(kFormatPDF);
 }
 
 bool vxOutputWIN::writeDevice(vxDevice& device, vxLayerManager* layerMng) {

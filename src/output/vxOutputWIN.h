@@ -5,7 +5,8 @@
 // The run uses it in this order:
 //   1. reset(): forget the devices of an earlier run;
 //   2. assign(call): one call per output function of the script;
-//   3. setUp(specs): every device learns the drawing's size;
+//   3. setUp(specs): a drawing for the host gets its PDF stream, and every
+//      device learns the drawing's size;
 //   4. write(layerMng): for each device in the order of creation: open,
 //      the layers draw into it, close; the first error ends the run.
 // Memory streams for the host are read afterwards with getStream.
@@ -30,6 +31,8 @@ class vxOutputWIN : public vxErrorHolder {
 public:
     // At most this many targets over all devices.
     static constexpr long kMaxTargets = 100;
+    // The drawing's rendering code that sends the picture to the host.
+    static constexpr short kHostTarget = -1;
 
     explicit vxOutputWIN(vxUserSettings* settings = nullptr);
     ~vxOutputWIN() override;
@@ -56,6 +59,7 @@ private:
     void setUpFileTarget(vxDevice& device, const vxAssign& assign, short format);
     void setMetadata(vxDevice& device, const vxAssign& assign, short format);
     bool writeDevice(vxDevice& device, vxLayerManager* layerMng);
+    void addHostStream();
 
     short defaultDeviceID = 4;
     vxUserSettings* userSettings;  // not owned
