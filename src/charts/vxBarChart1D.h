@@ -65,6 +65,7 @@ protected:
     // interval range starts at `along`.
     void storeBar(long series, long item, float along, float valueFrom, float valueTo, bool upward);
     bool createBarVectors();
+    bool startBars(float& zero, float& sign);
     void recede();
     void addFlatBars(vxLayerManager& layerMng, long series);
     void addDepthBars(vxLayerManager& layerMng);

@@ -55,14 +55,21 @@ void vxBarChart1D::storeBar(long s, long c, float along, float valueFrom, float 
     }
 }
 
-void vxBarChart1D::setUpNonStackedBars() {
+// Where bars start along the interval axis: the position of 0 there, and
+// the way offsets run from it. False without axes or vectors.
+bool vxBarChart1D::startBars(float& zero, float& sign) {
     const vxAxisItem* interval = getIntervalAxis();
-    const vxAxisItem* value = getValueAxis();
-    if (!interval || !value || !createBarVectors()) return;
-    const float zero = interval->toDC(0.0);
+    if (!interval || !getValueAxis() || !createBarVectors()) return false;
+    zero = interval->toDC(0.0);
     const bool reversed = interval->getScaling()->getDoReverseScaling();
-    const bool horizontal = getParameters().isHorizontal();
-    const float sign = (horizontal != reversed) ? -1.0f : 1.0f;
+    sign = (getParameters().isHorizontal() != reversed) ? -1.0f : 1.0f;
+    return true;
+}
+
+void vxBarChart1D::setUpNonStackedBars() {
+    float zero = 0.0f, sign = 1.0f;
+    if (!startBars(zero, sign)) return;
+    const vxAxisItem* value = getValueAxis();
     const double r = getParameters().getReferenceValue();
     const float base = value->toDC(r);
     for (long s = 0; s < getNumOfChartSeries(); ++s) {
@@ -78,13 +85,9 @@ void vxBarChart1D::setUpNonStackedBars() {
 // values upward, the negative ones downward, each bar from the end of the
 // last one of its sign.
 void vxBarChart1D::setUpStackedBars() {
-    const vxAxisItem* interval = getIntervalAxis();
+    float zero = 0.0f, sign = 1.0f;
+    if (!startBars(zero, sign)) return;
     const vxAxisItem* value = getValueAxis();
-    if (!interval || !value || !createBarVectors()) return;
-    const float zero = interval->toDC(0.0);
-    const bool reversed = interval->getScaling()->getDoReverseScaling();
-    const bool horizontal = getParameters().isHorizontal();
-    const float sign = (horizontal != reversed) ? -1.0f : 1.0f;
     const bool proportional = getParameters().isProportional();
     const double r = getParameters().getReferenceValue();
     for (long c = 0; c < numOfCategories; ++c) {
