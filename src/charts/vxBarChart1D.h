@@ -11,12 +11,14 @@
 // are the x and y depth and the tilt.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "charts/vxBaseChart.h"
 
 namespace Velarix {
 
+class vxLabel;
 class vxLayer;
 
 class vxBarChart1D : public vxBaseChart {
@@ -70,6 +72,8 @@ protected:
     void addFlatBars(vxLayerManager& layerMng, long series);
     void addDepthBars(vxLayerManager& layerMng);
     void addBox(vxLayer& layer, long series, long item);
+    void addLabels(vxLayerManager& layerMng);
+    std::unique_ptr<vxLabel> makeLabel(long series, long item);
     size_t indexOf(long series, long item) const {
         return static_cast<size_t>(series * numOfCategories + item);
     }

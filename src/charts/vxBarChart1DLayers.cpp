@@ -74,6 +74,7 @@ void vxBarChart1D::setUpLayers(vxLayerManager* layerMng) {
             for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s)
                 addFlatBars(*layerMng, s);
         }
+        if (!isError()) addLabels(*layerMng);
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"setUpLayers"));
     }

@@ -92,7 +92,9 @@ void vxBaseChart::setUpClipRect(float half) {
     e[2] += 1.0f;
     e[3] += 1.0f;
     intersect(e, limitBounds);
-    std::copy(e, e + 4, labelClipRect);
+    // Labels may stand outside the plot, as far as the limits reach.
+    const bool limited = limitBounds[2] > limitBounds[0] && limitBounds[3] > limitBounds[1];
+    std::copy(limited ? limitBounds : e, (limited ? limitBounds : e) + 4, labelClipRect);
 }
 
 void vxBaseChart::setUpShadowClipRect(const float shadowRect[4]) {

@@ -68,7 +68,7 @@ public:
     bool hasChartAreaBounds() const { return chartAreaBoundsSet; }
     bool hasPlotBounds() const { return plotBoundsSet; }
     // The plot grown by `half` (the widest stroke's half), by the depth and
-    // by one unit, within the limit bounds.
+    // by one unit, within the limit bounds; labels are clipped to the limits.
     void setUpClipRect(float half);
     // The clip of shadows from the shadow's offsets (left, top, right,
     // bottom of the shadow rectangle).

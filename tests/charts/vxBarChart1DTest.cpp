@@ -9,6 +9,8 @@
 #include "axes/vxAxisTestSupport.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
+#include "graphics/vxLabel.h"
+#include "graphics/vxText.h"
 #include "script/vxAssign.h"
 
 namespace Velarix::test {
@@ -119,6 +121,32 @@ TEST_F(BarChart, BoxesOfBarsWithDepth) {
     vxLayerManager flat;
     bars.setUpLayers(&flat);
     EXPECT_EQ(flat.getNumOfLayers(), 2);
+}
+
+TEST_F(ChartScript, LabelsStandAtTheirBars) {
+    ASSERT_EQ(run(L"BarChart(label)\nChartData(10 45)\nLabelOptions(1 2; 5)\n"), 0) << message();
+    vxLayerManager layers;
+    chart().setUpLayers(&layers);
+    ASSERT_FALSE(chart().isError());
+    const vxLayer* labels = nullptr;
+    for (long i = 0; i < layers.getNumOfLayers(); ++i) {
+        if (layers.getLayer(i)->getTypeID() == 23) labels = layers.getLayer(i);
+    }
+    ASSERT_NE(labels, nullptr);
+    ASSERT_EQ(labels->getNumOfShapes(), 3);  // the clip and two labels
+    auto* bars = dynamic_cast<vxBarChart1D*>(chart().getChartType());
+    float bar[4], box[4];
+    // "smartout": over the first bar; the second reaches the plot's top
+    // and still has room above it in the chart.
+    bars->getBarRect(0, 0, bar);
+    dynamic_cast<vxLabel*>(labels->getShape(1))->getLabelBounds(box);
+    EXPECT_EQ(dynamic_cast<vxLabel*>(labels->getShape(1))->getText()->getText(), L"10");
+    EXPECT_LT(box[3], bar[1]);
+    EXPECT_NEAR((box[0] + box[2]) / 2, (bar[0] + bar[2]) / 2, 1.0f);
+    // Location 5 of item 2: in the middle of its bar.
+    bars->getBarRect(0, 1, bar);
+    dynamic_cast<vxLabel*>(labels->getShape(2))->getLabelBounds(box);
+    EXPECT_NEAR((box[1] + box[3]) / 2, (bar[1] + bar[3]) / 2, 1.0f);
 }
 
 }  // namespace
