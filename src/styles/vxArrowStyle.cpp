@@ -30,17 +30,7 @@ bool vxArrowStyle::createArrow() {
 bool vxArrowStyle::setDefaults(long number) {
     arrowEnds = kAtEnd;
     if (!createArrow()) return false;
-    vxGObjectAppearanceOLD* look = arrow->getAppearance();
-    try {
-        const vxBasicPaint paint(colorOfNumber(number, owner));
-        look->setBorderStroke(vxBasicStroke(1.0f));
-        look->setBorderPaint(paint);
-        look->setFillPaint(paint);
-    } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, where(L"setDefaults"));
-        return false;
-    }
-    return takeError(look) && takeError(arrow.get());
+    return paintInNumber(*arrow, number);
 }
 
 bool vxArrowStyle::set(const vxArrowStyle* from) {

@@ -7,6 +7,8 @@
 #include "graphics/vxBasicStroke.h"
 #include "graphics/vxColorPaletteOLD.h"
 #include "graphics/vxCombinedStroke.h"
+#include "graphics/vxGObjectAppearanceOLD.h"
+#include "graphics/vxGObjectOLD.h"
 #include "graphics/vxPaintOLD.h"
 #include "graphics/vxWaveStroke.h"
 #include "host/vxLog.h"
@@ -161,6 +163,20 @@ bool vxStyle::copyStroke(std::unique_ptr<vxStrokeOLD>& slot, const vxStrokeOLD* 
         return false;
     }
     return takeError(slot.get());
+}
+
+bool vxStyle::paintInNumber(vxGObjectOLD& object, long number) {
+    vxGObjectAppearanceOLD* look = object.getAppearance();
+    try {
+        const vxBasicPaint paint(colorOfNumber(number, owner));
+        look->setBorderStroke(vxBasicStroke(1.0f));
+        look->setBorderPaint(paint);
+        look->setFillPaint(paint);
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"setDefaults"));
+        return false;
+    }
+    return takeError(look) && takeError(&object);
 }
 
 }  // namespace Velarix

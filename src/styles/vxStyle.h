@@ -21,6 +21,7 @@
 namespace Velarix {
 
 class vxAssign;
+class vxGObjectOLD;
 class vxPaintOLD;
 class vxStrokeOLD;
 class vxUserSettings;
@@ -63,6 +64,9 @@ protected:
     void dumpSelection(std::ostream& out) const;
     // Takes the error of a part when it has one; false then.
     bool takeError(const vxErrorHolder* part);
+    // Gives the object a border of width 1 and a border and fill in the
+    // colour of `number`; false, with the error taken, on failure.
+    bool paintInNumber(vxGObjectOLD& object, long number);
 
     // A new paint of a kind (vxPaintOLD's codes) at "/createBasicPaint/1",
     // "/createLinearGradient/1", "/createRadialGradient/1" or

@@ -1,5 +1,7 @@
 #include "styles/vxStyleManager.h"
 
+#include <utility>
+
 #include <new>
 
 #include "host/vxLog.h"
@@ -103,48 +105,37 @@ const vxLabelStyle* vxStyleManager::getLabelStyle(long series, long item) const 
     return find(labelStyles, series, item);
 }
 
-long vxStyleManager::getNumOfDefaultStyles(Kind kind) const {
-    auto count = [](const auto& records) { return static_cast<long>(records.defaults.size()); };
+// The numbers of default and of script records of a kind.
+std::pair<long, long> vxStyleManager::sizesOf(Kind kind) const {
+    auto sizes = [](const auto& records) {
+        return std::pair<long, long>(long(records.defaults.size()), long(records.script.size()));
+    };
     switch (kind) {
         case kBar:
-            return count(barStyles);
+            return sizes(barStyles);
         case kSymbol:
-            return count(symbolStyles);
+            return sizes(symbolStyles);
         case kLine:
-            return count(lineStyles);
+            return sizes(lineStyles);
         case kBorder:
-            return count(borderStyles);
+            return sizes(borderStyles);
         case kFill:
-            return count(fillStyles);
+            return sizes(fillStyles);
         case kArrow:
-            return count(arrowStyles);
+            return sizes(arrowStyles);
         case kShadow:
-            return count(shadowStyles);
+            return sizes(shadowStyles);
         default:
-            return count(labelStyles);
+            return sizes(labelStyles);
     }
 }
 
+long vxStyleManager::getNumOfDefaultStyles(Kind kind) const {
+    return sizesOf(kind).first;
+}
+
 long vxStyleManager::getNumOfScriptStyles(Kind kind) const {
-    auto count = [](const auto& records) { return static_cast<long>(records.script.size()); };
-    switch (kind) {
-        case kBar:
-            return count(barStyles);
-        case kSymbol:
-            return count(symbolStyles);
-        case kLine:
-            return count(lineStyles);
-        case kBorder:
-            return count(borderStyles);
-        case kFill:
-            return count(fillStyles);
-        case kArrow:
-            return count(arrowStyles);
-        case kShadow:
-            return count(shadowStyles);
-        default:
-            return count(labelStyles);
-    }
+    return sizesOf(kind).second;
 }
 
 // Both managers have the same number of defaults of each kind.

@@ -39,6 +39,7 @@
 
 #include <memory>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 #include "settings/vxErrorHolder.h"
@@ -100,6 +101,8 @@ public:
     void dump(short depth, std::ostream& out) const;
 
 private:
+    // The numbers of default and of script records of a kind.
+    std::pair<long, long> sizesOf(Kind kind) const;
     template <class T>
     struct Records {
         std::vector<std::unique_ptr<T>> defaults;

@@ -31,17 +31,7 @@ bool vxSymbolStyle::createSymbol() {
 bool vxSymbolStyle::setDefaults(long number) {
     if (!createSymbol()) return false;
     symbol->setSymbolType(static_cast<short>(number));
-    vxGObjectAppearanceOLD* look = symbol->getAppearance();
-    try {
-        const vxBasicPaint paint(colorOfNumber(number, owner));
-        look->setBorderStroke(vxBasicStroke(1.0f));
-        look->setBorderPaint(paint);
-        look->setFillPaint(paint);
-    } catch (const std::bad_alloc&) {
-        setError(vxErrRuntime::kOutOfMemory, where(L"setDefaults"));
-        return false;
-    }
-    return takeError(look) && takeError(symbol.get());
+    return paintInNumber(*symbol, number);
 }
 
 bool vxSymbolStyle::set(const vxSymbolStyle* from) {
