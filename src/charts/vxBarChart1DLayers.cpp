@@ -8,10 +8,9 @@
 #include "axes/vxAxisItem.h"
 #include "axes/vxAxisScaling.h"
 #include "charts/vxBarChart1D.h"
+#include "charts/vxChartShapes.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
-#include "graphics/vxBasicStroke.h"
-#include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxPaintOLD.h"
 #include "graphics/vxPath2DOLD.h"
 
@@ -33,34 +32,6 @@ constexpr Face kFront{{0, 1, 2, 3}, 0.0f};
 constexpr Face kBack{{4, 5, 6, 7}, 0.25f};
 constexpr Face kLeft{{4, 0, 3, 7}, 0.25f};
 constexpr Face kRight{{5, 1, 2, 6}, 0.25f};
-
-// A closed polygon in the look, darkened by a fraction.
-std::unique_ptr<vxPath2DOLD> polygon(const float* x, const float* y, const int* corners, int n,
-                                     const vxBaseChart::Look& look, float darkening) {
-    auto path = std::make_unique<vxPath2DOLD>();
-    for (int i = 0; i < n; ++i) {
-        const int k = corners ? corners[i] : i;
-        if (i == 0) {
-            path->moveTo(x[k], y[k]);
-        } else {
-            path->lineTo(x[k], y[k]);
-        }
-    }
-    path->close();
-    vxGObjectAppearanceOLD& appearance = *path->getAppearance();
-    if (look.fill) {
-        std::unique_ptr<vxPaintOLD> fill = look.fill->clone();
-        if (darkening > 0.0f) fill->darken(darkening);
-        appearance.setFillPaint(*fill);
-    }
-    if (look.border && look.stroke) {
-        std::unique_ptr<vxPaintOLD> border = look.border->clone();
-        if (darkening > 0.0f) border->darken(darkening);
-        appearance.setBorderPaint(*border);
-        appearance.setBorderStroke(*look.stroke);
-    }
-    return path;
-}
 
 }  // namespace
 
@@ -89,7 +60,7 @@ void vxBarChart1D::addFlatBars(vxLayerManager& layerMng, long s) {
         getBarRect(s, c, r);
         const float x[4] = {r[0], r[2], r[2], r[0]};
         const float y[4] = {r[3], r[3], r[1], r[1]};
-        layer->addShape(polygon(x, y, nullptr, 4, getAreaLook(s, c), 0.0f));
+        layer->addShape(vxMakeLookedPolygon(x, y, nullptr, 4, getAreaLook(s, c)));
     }
     if (layer->isError()) return copyError(layer->getError());
     layerMng.addLayer(std::move(layer));
@@ -144,7 +115,8 @@ void vxBarChart1D::addBox(vxLayer& layer, long s, long c) {
         for (const Face* f : {&kBack, &kLeft, &kBottom, &kRight, &kTop, &kFront}) faces[n++] = f;
     }
     for (int i = 0; i < n; ++i) {
-        layer.addShape(polygon(x, y, faces[i]->corners, 4, look, faces[i]->darkening));
+        layer.addShape(
+            vxMakeLookedPolygon(x, y, faces[i]->corners, 4, look, faces[i]->darkening, true));
     }
 }
 
