@@ -57,7 +57,10 @@ public:
     void setUpLabels(const vxFormatSettings* settings);
     // Places of categories whose items stand between the marks; their
     // labels stand at them instead of at the marks. Empty: at the marks.
-    void setCategoryValues(std::vector<double> values) { categoryValues = std::move(values); }
+    void setCategoryValues(std::vector<double> values, double shift = 0.0) {
+        categoryValues = std::move(values);
+        categoryShift = shift;
+    }
     void placeTitle(const float plot[4]);
     // Line, marks, labels and title.
     bool getBounds(float bounds[4]) const;
@@ -124,6 +127,7 @@ private:
     std::unique_ptr<vxAxisLabel> axisLabel;
     vxAssign::CallPlace scalingCall;
     std::vector<double> categoryValues;
+    double categoryShift = 0.0;
 };
 
 }  // namespace Velarix

@@ -148,7 +148,13 @@ void vxAxisItem::setUpLabels(const vxFormatSettings* settings) {
             } else {
                 labels->storeScalingValues(*scaling);
             }
-            tickPositions(labels->getValues(), positions);
+            if (order == 1 && !categoryValues.empty() && categoryShift != 0.0) {
+                std::vector<double> places = labels->getValues();
+                for (double& place : places) place += categoryShift;
+                tickPositions(places, positions);
+            } else {
+                tickPositions(labels->getValues(), positions);
+            }
             if (!isShown()) positions.clear();
             labels->setUpLabels(*scaling, axisType, settings, positions, place);
             if (!takePartError(labels)) return;

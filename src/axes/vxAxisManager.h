@@ -52,6 +52,9 @@ public:
         bool hasTime = false;
         // Places of categories that stand between the marks, for labels.
         std::vector<double> categories;
+        // How far from its value a category's label stands (bars of a
+        // numeric interval axis fill the step before their value).
+        double categoryShift = 0.0;
     };
     void setUpCartesian(const float plot[4], const std::vector<AxisSpan>& spans, short chartKind,
                         bool isBarOrAreaDateTime, const vxFormatSettings* settings);

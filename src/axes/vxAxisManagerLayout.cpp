@@ -19,7 +19,7 @@ void vxAxisManager::setUpCartesian(const float plot[4], const std::vector<AxisSp
         vxAxisItem& axis = *axes[static_cast<size_t>(i)];
         const AxisSpan& s = spans[static_cast<size_t>(i)];
         axis.setAxisType(s.dataType);
-        axis.setCategoryValues(s.categories);
+        axis.setCategoryValues(s.categories, s.categoryShift);
         axis.setPhi(i == 0 ? vxAxisItem::kHorizontalPhi : 0.0f);
         if (i == 0) {
             axis.setUpHScaling(plot, s.min, s.max, false, s.hasDate, s.hasTime, chartKind,

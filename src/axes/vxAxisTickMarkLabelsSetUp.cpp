@@ -57,7 +57,10 @@ void vxAxisTickMarkLabels::storeCategoryValues(const vxAxisScaling& scaling,
     const size_t step = static_cast<size_t>(std::max(1L, std::lround(interval)));
     try {
         valuesUC.clear();
-        for (size_t i = 0; i < categories.size(); i += step) valuesUC.push_back(categories[i]);
+        // Categories outside a given scale have no place on the axis.
+        for (size_t i = 0; i < categories.size(); i += step) {
+            if (scaling.isInScale(categories[i])) valuesUC.push_back(categories[i]);
+        }
         intervals.assign(valuesUC.size(), 1);
         suppressZero = false;
     } catch (const std::bad_alloc&) {

@@ -14,6 +14,7 @@ namespace {
 
 // A depth of 100 percent is one bar width along the diagonal.
 constexpr float kDiagonalPercent = 0.007071f;
+constexpr short kBarChart2DType = 10;
 
 }  // namespace
 
@@ -78,10 +79,17 @@ void vxBarChart1D::setUpBarDimensions() {
     long nC = 0;
     for (long s = 0; s < nS; ++s) nC = std::max(nC, getNumOfItems(s));
     numOfCategories = nC;
+    setUpBarWidth(categoriesInSpan(), getChartType() == kBarChart2DType ? 2 : 1);
+}
+
+void vxBarChart1D::setUpBarWidth(double nC, int errorPlace) {
+    const long nS = getNumOfChartSeries();
     const double categoryGaps = nC * 0.01 * categoryGapPercent;
     const double seriesGaps = (nS - 1) * 0.01 * nC * seriesGapPercent;
     const double units = double(nC) * nS + categoryGaps + seriesGaps;
-    if (units < 1e-10) return setError(vxErrRuntime::kDivisionByZero, where(L"setUpBarDimensions"));
+    if (units < 1e-10) {
+        return setError(vxErrRuntime::kDivisionByZero, where(L"setUpBarDimensions", errorPlace));
+    }
     double scalingFactor = 1.0;
     if (const vxAxisItem* axis = getIntervalAxis()) {
         const double span = axis->getScaling()->getMaxUC() - axis->getScaling()->getMinUC();

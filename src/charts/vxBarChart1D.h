@@ -40,10 +40,13 @@ public:
 
     // Bar width and gaps in device units; error 5010 when no width is left.
     void setUpBarDimensions();
+    // Bar width and gaps for a span of the interval axis that holds
+    // `categories`; error 5010 at the given place when no width is left.
+    void setUpBarWidth(double categories, int errorPlace = 1);
     void setUpNonStackedBars();
     void setUpStackedBars();
     // A bar that exists and whose value is not 0.
-    bool isDrawable(long series, long item) const;
+    virtual bool isDrawable(long series, long item) const;
 
     long getNumOfCategories() const { return numOfCategories; }
     float getBarWidthDC() const { return barWidthDC; }
@@ -63,6 +66,13 @@ protected:
     // The distance of bar (s, c) from the position of 0 on the interval
     // axis.
     float offsetOf(long series, long item) const;
+    // How many categories the interval axis's span holds, for the width.
+    virtual double categoriesInSpan() const { return double(numOfCategories); }
+    // Where bar (s, c) begins along the interval axis, given the position
+    // of 0 there and the way offsets run.
+    virtual float barStart(long series, long item, float zero, float sign) const {
+        return zero + sign * offsetOf(series, item);
+    }
     // Stores bar (s, c) between two positions on the value axis, whose
     // interval range starts at `along`.
     void storeBar(long series, long item, float along, float valueFrom, float valueTo, bool upward);

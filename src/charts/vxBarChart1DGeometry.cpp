@@ -76,7 +76,7 @@ void vxBarChart1D::setUpNonStackedBars() {
         for (long c = 0; c < getNumOfItems(s); ++c) {
             if (!isValidValue(s, 1, c)) continue;
             const double v = getValue(s, 1, c);
-            storeBar(s, c, zero + sign * offsetOf(s, c), base, value->toDC(v), v >= r);
+            storeBar(s, c, barStart(s, c, zero, sign), base, value->toDC(v), v >= r);
         }
     }
 }
@@ -100,7 +100,7 @@ void vxBarChart1D::setUpStackedBars() {
             const bool upward = getValue(s, 1, c) >= 0.0;
             float& end = upward ? positiveEnd : negativeEnd;
             const float next = value->toDC(stacked);
-            storeBar(s, c, zero + sign * offsetOf(s, c), end, next, upward);
+            storeBar(s, c, barStart(s, c, zero, sign), end, next, upward);
             end = next;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "axes/vxAxisManager.h"
 #include "charts/vxBarChart1D.h"
+#include "charts/vxBarChart2D.h"
 #include "charts/vxBaseChartParameters.h"
 #include "charts/vxChartTypeTable.h"
 #include "data/vxDataManager.h"
@@ -56,9 +57,16 @@ void vxChart::setChart(vxAssign& a) {
 // axes only.
 void vxChart::createChart(vxAssign& a) {
     chartType.reset();
-    if (chartFunction != kBarChart1D) return;
     std::unique_ptr<vxBarChart1D> bars;
-    if (!create(bars, L"createChart")) return;
+    if (chartFunction == kBarChart1D) {
+        if (!create(bars, L"createChart")) return;
+    } else if (chartFunction == kBarChart2D) {
+        std::unique_ptr<vxBarChart2D> bars2D;
+        if (!create(bars2D, L"createChart")) return;
+        bars = std::move(bars2D);
+    } else {
+        return;
+    }
     bars->getParameters().copyFrom(parameters.get());
     a.addToArgumentOffset(1);
     bars->assign(a);
@@ -161,12 +169,25 @@ void vxChart::assignAddition(vxAssign& a, float originX, float originY) {
     }
 }
 
-// The additions lie behind what the chart draws of its own; the axes drawn
-// "front" come after the series.
+// From the back to the front: the additions, the backgrounds and the grids
+// behind the series, the axes, the series (with the axes drawn "front"
+// over them), the legend, the additions again, the title and the additions
+// a third time. So additions show behind the chart and over its legend and
+// title alike: drawn three times, a half-transparent one darkens.
 void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (!layerMng) return;
     setUpAdditionLayers(layerMng);
-    if (isError() || !axisManager || !hasAxes()) return;
+    if (!isError()) setUpPlotLayers(layerMng);
+    // The legend comes here, with its own layer.
+    if (!isError()) setUpAdditionLayers(layerMng);
+    // The title comes here.
+    if (!isError()) setUpAdditionLayers(layerMng);
+}
+
+// The backgrounds of the plot and the grids come first, when they exist;
+// then the axes and the series.
+void vxChart::setUpPlotLayers(vxLayerManager* layerMng) {
+    if (!axisManager || !hasAxes()) return;
     const float* clip = layerMng->getCurrentClipRect();
     axisManager->setUpLayers(layerMng, clip, false);
     if (axisManager->isError()) return copyError(axisManager->getError());

@@ -68,6 +68,7 @@ private:
     void assignAxes(vxAssign& assign);
     void assignStyle(vxAssign& assign);
     void setUpAdditionLayers(vxLayerManager* layerMng);
+    void setUpPlotLayers(vxLayerManager* layerMng);
     // The rectangles of the chart, from its frame inward (vxChartBounds.cpp).
     void setUpBounds();
     void setUpBoundsInFrame();
@@ -77,6 +78,8 @@ private:
     bool hasAxes() const;
     // The plot inside the graph, fitted against the axes' labels.
     void fitPlot(int rounds);
+    void squarePlot();
+    bool needsSquarePlot() const;
     void setUpAxisScalings();
     // The span of each axis by chart type (vxChartAxisLimits.cpp).
     bool createAuxScalingVectors(long count);

@@ -17,6 +17,8 @@ namespace {
 constexpr float kMinGraphSize = 20.0f;
 constexpr float kMinPlotSize = 10.0f;
 constexpr short kPieChart = 13;
+constexpr short kBarChart2DType = 10;
+constexpr short kLastRoundChart = 16;
 constexpr int kFittingRounds = 3;
 
 bool isBarOrAreaDateTimeChart(short chartType) {
@@ -104,6 +106,7 @@ void vxChart::fitPlot(int rounds) {
             plotBounds[2] -= std::round(std::fabs(g[2] - graphBounds[2]));
             plotBounds[3] -= std::round(std::fabs(g[3] - graphBounds[3]));
         }
+        squarePlot();
         if (!hasAxes()) return;
         if (plotBounds[2] - plotBounds[0] < 1.0f || plotBounds[3] - plotBounds[1] < 1.0f) return;
         setUpAxisScalings();
@@ -113,6 +116,34 @@ void vxChart::fitPlot(int rounds) {
         bool hasBounds = true;
         if (axisManager->getOuterBounds(outer)) vxUniteBounds(graphBounds, outer, hasBounds);
     }
+    squarePlot();
+}
+
+// Pies and the round charts stand in the largest centred square of the
+// plot, unless they may be ovals. The side is the even one of the two
+// whole numbers around the smaller extent; an odd whole number goes down,
+// so that the square stays inside the plot.
+void vxChart::squarePlot() {
+    if (!needsSquarePlot()) return;
+    const float width = plotBounds[2] - plotBounds[0];
+    const float height = plotBounds[3] - plotBounds[1];
+    const double extent = std::max(0.0f, std::min(width, height));
+    const double below = std::floor(extent);
+    const bool belowIsEven = std::fmod(below, 2.0) == 0.0;
+    double side = below;
+    if (!belowIsEven) side = below == extent ? below - 1.0 : below + 1.0;
+    const double cx = 0.5 * (double(plotBounds[0]) + plotBounds[2]);
+    const double cy = 0.5 * (double(plotBounds[1]) + plotBounds[3]);
+    plotBounds[0] = float(std::round(cx - side / 2.0));
+    plotBounds[1] = float(std::round(cy - side / 2.0));
+    plotBounds[2] = plotBounds[0] + float(side);
+    plotBounds[3] = plotBounds[1] + float(side);
+}
+
+bool vxChart::needsSquarePlot() const {
+    if (!parameters || parameters->isOval()) return false;
+    const short type = parameters->getChartType();
+    return type >= kPieChart && type <= kLastRoundChart;
 }
 
 void vxChart::setUpAxisScalings() {
@@ -125,7 +156,10 @@ void vxChart::setUpAxisScalings() {
         span.hasDate = axisHasDate[k] != 0;
         span.hasTime = axisHasTime[k] != 0;
         spans.push_back(std::move(span));
-        if (long(k) == categoryAxis) spans.back().categories = categoryPositions;
+        if (long(k) == categoryAxis) {
+            spans.back().categories = categoryPositions;
+            if (parameters->getChartType() == kBarChart2DType) spans.back().categoryShift = -0.5;
+        }
     }
     axisManager->setIsHorizontal(parameters->isHorizontal());
     vxUserSettings* settings = getOwnerSettings();

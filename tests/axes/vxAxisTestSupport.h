@@ -22,16 +22,17 @@ namespace Velarix::test {
 class ChartScript : public ::testing::Test {
 protected:
     // Reads the calls after OpenDrawing(400; 300) and OpenChart(0; 0; 400;
-    // 300) in a new run, and lays the chart out; the code of the first
-    // error, 0 for none.
-    short run(const std::wstring& calls) {
+    // 300) (or the frame given) in a new run, and lays the chart out; the
+    // code of the first error, 0 for none.
+    short run(const std::wstring& calls,
+              const std::wstring& openChart = L"OpenChart(0; 0; 400; 300)") {
         script.reset();
         view.reset();
         settings = std::make_unique<vxUserSettings>(L"", L"", 1, 1);
         settings->setDefaults();
         view = std::make_unique<vxView>(settings.get());
         script = std::make_unique<vxScript>(settings.get(), &specs, view.get(), &output);
-        script->tokenize(L"OpenDrawing(400; 300)\nOpenChart(0; 0; 400; 300)\n" + calls);
+        script->tokenize(L"OpenDrawing(400; 300)\n" + openChart + L"\n" + calls);
         if (script->isError()) return script->getError()->getErrorCode();
         const float bounds[4] = {0, 0, 400, 300};
         view->setUp(bounds);
