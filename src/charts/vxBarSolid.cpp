@@ -102,6 +102,8 @@ Path halfMantle(const vxBarSolidFrame& frame, double from, const vxBaseChart::Lo
 
 // Shades the seen half of a cylinder from `from` across the drawing's x (y
 // for bars along x), each stop darkened as a flat side of the same turn.
+// The gradient's bands run along the bar; under a tilt the axis of a bar
+// along x leans, and its bands lean a little less.
 void shadeMantle(vxPath2DOLD& mantle, const vxBarSolidFrame& frame, double from,
                  const vxBaseChart::Look& look) {
     const auto* plain = dynamic_cast<const vxBasicPaint*>(look.fill);

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "graphics/vxBasicPaint.h"
@@ -43,16 +44,27 @@ vxBaseChartDepthInfo receding(float x, float y, float tilt = 0) {
     return depth;
 }
 
-Bounds boundsOf(vxGObjectOLD& shape) {
+Bounds boundsOf(const vxGObjectOLD& shape) {
     Bounds b;
-    shape.getBounds(b.data());
+    const_cast<vxGObjectOLD&>(shape).getBounds(b.data());
     return b;
 }
 
-// The darkening of a face with a plain fill, read from its red.
+const vxPaintOLD* fillOf(const vxGObjectOLD& face) {
+    return const_cast<vxGObjectOLD&>(face).getAppearance()->getFillPaint();
+}
+
 float darkeningOf(const vxGObjectOLD& face) {
-    const vxPaintOLD* fill = const_cast<vxGObjectOLD&>(face).getAppearance()->getFillPaint();
-    return 1.0f - fill->getColor()->getRed() / kRed;
+    return 1.0f - fillOf(face)->getColor()->getRed() / kRed;
+}
+
+bool isInside(const Bounds& b, const Bounds& box) {
+    return b[0] >= box[0] - 1e-3f && b[1] >= box[1] - 1e-3f && b[2] <= box[2] + 1e-3f &&
+           b[3] <= box[3] + 1e-3f;
+}
+
+void expectBounds(const Bounds& b, const Bounds& expected) {
+    for (int i = 0; i < 4; ++i) EXPECT_NEAR(b[i], expected[i], 0.05f) << i;
 }
 
 class BarSolid : public ::testing::Test {
@@ -77,112 +89,89 @@ protected:
     vxBasicStroke stroke{1.0f};
 };
 
-void expectBounds(const Bounds& b, float l, float t, float r, float bottom, const char* what) {
-    EXPECT_NEAR(b[0], l, 0.05f) << what;
-    EXPECT_NEAR(b[1], t, 0.05f) << what;
-    EXPECT_NEAR(b[2], r, 0.05f) << what;
-    EXPECT_NEAR(b[3], bottom, 0.05f) << what;
-}
-
-TEST_F(BarSolid, WithoutDepthTheSilhouetteSpansTheProfileAcrossTheBar) {
+TEST_F(BarSolid, TheSilhouetteSpansTheProfileAndMeetsTheBoxWhereTheProfileMeetsItsSquare) {
     const float s = std::sqrt(3.0f) / 4, p = 0.5f * std::cos(0.1f * 3.14159265f);
+    const float d = 0.5f * std::sqrt(0.5f);
     const struct {
         short shape;
-        float angle, lo, hi;
+        float angle, lo, hi;  // the span across the width
+        bool front;           // whether the profile touches the front
     } cases[] = {
-        {1, 0, 0, 1},
-        {2, 0, 0, 1},
-        {3, 0, 0.5f - s, 0.5f + s},
-        {4, 0, 0, 1},
-        {5, 0, 0.5f - p, 0.5f + p},
-        {6, 0, 0.5f - s, 0.5f + s},
-        // Turned clockwise seen from the far end: the back corner of a
-        // triangle goes right, its front-left corner to the left side.
-        {3, 30, 0, 0.75f},
-        {3, -30, 0.25f, 1},
-        {4, 45, 0.5f - 0.5f * std::sqrt(0.5f), 0.5f + 0.5f * std::sqrt(0.5f)},
+        {1, 0, 0, 1, true},
+        {2, 0, 0, 1, true},
+        {3, 0, 0.5f - s, 0.5f + s, false},
+        {4, 0, 0, 1, true},
+        {5, 0, 0.5f - p, 0.5f + p, false},
+        {6, 0, 0.5f - s, 0.5f + s, true},
+        // Turned clockwise seen from the far end, the back corner of a
+        // triangle goes right and its front-left corner to the left side.
+        {3, 30, 0, 0.75f, false},
+        {3, -30, 0.25f, 1, false},
+        {4, 45, 0.5f - d, 0.5f + d, false},
     };
-    const vxBaseChartDepthInfo flat;
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << "shape " << c.shape << " angle " << c.angle);
-        expectBounds(silhouette(kRect, 1, c.shape, flat, c.angle), 100 + 60 * c.lo, 100,
-                     100 + 60 * c.hi, 300, "upright");
-        // A bar to the right is the upright one turned clockwise: its width
-        // runs downward.
-        expectBounds(silhouette(kRect, 4, c.shape, flat, c.angle), 100, 100 + 200 * c.lo, 160,
-                     100 + 200 * c.hi, "to the right");
-    }
-}
-
-TEST_F(BarSolid, TheSilhouetteStaysInTheBoxAndMeetsItWhereTheProfileMeetsItsSquare) {
-    const vxBaseChartDepthInfo depth = receding(24, 16);
-    for (short shape = 0; shape <= 6; ++shape) {
-        SCOPED_TRACE(shape);
-        const Bounds b = silhouette(kRect, 1, shape, depth);
-        EXPECT_GE(b[0], 100 - 1e-3f);
-        EXPECT_LE(b[2], 184 + 1e-3f);
-        // Every profile has a corner at the back; triangle and pentagon
-        // stay off the front side of the square.
-        EXPECT_NEAR(b[1], 84, 1e-3f);
-        const bool front = shape != 3 && shape != 5;
-        EXPECT_EQ(std::fabs(b[3] - 300) < 1e-3f, front);
-        EXPECT_LE(b[3], 300 + 1e-3f);
-    }
-    // Tilted, in every direction.
-    const vxBaseChartDepthInfo tilted = receding(24, 16, 0.3f);
-    float x[8], y[8];
-    tilted.project(kRect, 0, 0, x, y);
-    const auto [left, right] = std::minmax_element(x, x + 8);
-    const auto [top, bottom] = std::minmax_element(y, y + 8);
-    for (short direction = 1; direction <= 4; ++direction) {
-        for (short shape = 1; shape <= 6; ++shape) {
-            const Bounds b = silhouette(kRect, direction, shape, tilted, 20);
-            EXPECT_TRUE(b[0] >= *left - 1e-3f && b[2] <= *right + 1e-3f && b[1] >= *top - 1e-3f &&
-                        b[3] <= *bottom + 1e-3f)
-                << direction << " " << shape;
-        }
+        const vxBaseChartDepthInfo flat;
+        expectBounds(silhouette(kRect, 1, c.shape, flat, c.angle),
+                     {100 + 60 * c.lo, 100, 100 + 60 * c.hi, 300});
+        // With depth, unturned profiles reach the top of the back with a
+        // corner.
+        const Bounds b = silhouette(kRect, 1, c.shape, receding(24, 16), c.angle);
+        EXPECT_TRUE(isInside(b, {100, 84, 184, 300}));
+        EXPECT_TRUE(c.angle != 0 || std::fabs(b[1] - 84) < 1e-3f);
+        EXPECT_EQ(std::fabs(b[3] - 300) < 1e-3f, c.front);
     }
 }
 
 TEST_F(BarSolid, OpaqueFillsShowTheSeenSidesThenTheEndSeeThroughFillsEveryFace) {
     const vxBaseChartDepthInfo depth = receding(24, 16);
-    // The viewer sees the front, the right and the top; sides that face
-    // the front or the right at least half-way are seen.
-    const int seen[7] = {3, 2, 5, 2, 3, 3, 4};
-    const int all[7] = {6, 4, 10, 5, 6, 7, 8};
+    // Seen from the front, the right and above: the sides that turn
+    // toward the front or the right, and the top.
+    const size_t seen[7] = {3, 2, 5, 2, 3, 3, 4}, all[7] = {6, 4, 10, 5, 6, 7, 8};
     for (short shape = 0; shape <= 6; ++shape) {
         SCOPED_TRACE(shape);
         const Objects opaque = faces(kRect, 1, shape, depth);
-        ASSERT_EQ(opaque.size(), size_t(seen[shape]));
-        EXPECT_NEAR(darkeningOf(*opaque.back()), 0.13f, 0.01f);  // the top
-        for (const auto& face : opaque) EXPECT_LE(darkeningOf(*face), 0.25f + 0.01f);
+        ASSERT_EQ(opaque.size(), seen[shape]);
+        EXPECT_NEAR(darkeningOf(*opaque.back()), 0.13f, 0.01f);
+        for (size_t i = shape == 1 ? 1 : 0; i < opaque.size(); ++i)
+            EXPECT_LE(darkeningOf(*opaque[i]), 0.25f + 0.01f);
         const Objects clear = faces(kRect, 1, shape, depth, false);
-        ASSERT_EQ(clear.size(), size_t(all[shape]));
+        ASSERT_EQ(clear.size(), all[shape]);
         EXPECT_NEAR(darkeningOf(*clear.back()), 0.13f, 0.01f);
     }
+    // A cylinder's side is shaded across, from the front's colour to that
+    // of a side; a hatch keeps its pattern, darkened as one side.
+    const Objects cylinder = faces(kRect, 1, 1, depth);
+    const auto* shading = dynamic_cast<const vxGradientPaint*>(fillOf(*cylinder[0]));
+    ASSERT_TRUE(shading);
+    std::vector<short> reds;
+    for (long i = 0; i < shading->getNumOfColors(); ++i)
+        reds.push_back(shading->getColor(i)->getRed());
+    EXPECT_GE(*std::max_element(reds.begin(), reds.end()), 196);
+    EXPECT_LE(*std::min_element(reds.begin(), reds.end()), 160);
+    fill.setPatternIndex(5);
+    EXPECT_EQ(fillOf(*faces(kRect, 1, 1, depth)[0])->getType(), vxPaintOLD::kBasic);
 }
 
 TEST_F(BarSolid, TheSquareProfileIsTheBox) {
     const vxBaseChartDepthInfo depth = receding(24, 16);
     const Objects opaque = faces(kRect, 1, 0, depth);
     ASSERT_EQ(opaque.size(), 3u);
-    // Right side, front, top, as the box's faces and darkenings.
-    expectBounds(boundsOf(*opaque[0]), 160, 84, 184, 300, "right");
-    EXPECT_NEAR(darkeningOf(*opaque[0]), 0.25f, 0.01f);
-    expectBounds(boundsOf(*opaque[1]), 100, 100, 160, 300, "front");
-    EXPECT_NEAR(darkeningOf(*opaque[1]), 0.0f, 0.01f);
-    expectBounds(boundsOf(*opaque[2]), 100, 84, 184, 100, "top");
-    // See-through: the back, the left and the bottom first, back to front.
+    const Bounds seen[3] = {{160, 84, 184, 300}, {100, 100, 160, 300}, {100, 84, 184, 100}};
+    const float darkening[3] = {0.25f, 0, 0.13f};  // right side, front, top
+    for (int i = 0; i < 3; ++i) {
+        expectBounds(boundsOf(*opaque[i]), seen[i]);
+        EXPECT_NEAR(darkeningOf(*opaque[i]), darkening[i], 0.01f);
+    }
+    // See-through: the back, the left and the bottom first, from the back.
     const Objects clear = faces(kRect, 1, 0, depth, false);
     ASSERT_EQ(clear.size(), 6u);
-    expectBounds(boundsOf(*clear[0]), 124, 84, 184, 284, "back");
-    expectBounds(boundsOf(*clear[1]), 100, 84, 124, 300, "left");
-    expectBounds(boundsOf(*clear[2]), 100, 284, 184, 300, "bottom");
-    for (int i = 0; i < 3; ++i) EXPECT_NEAR(darkeningOf(*clear[i]), 0.25f, 0.01f);
+    const Bounds hidden[3] = {{124, 84, 184, 284}, {100, 84, 124, 300}, {100, 284, 184, 300}};
+    for (int i = 0; i < 3; ++i) expectBounds(boundsOf(*clear[i]), hidden[i]);
 }
 
-// Each face's bounds, sorted, after a map of the drawing.
-std::vector<Bounds> faceBounds(const Objects& faces, float sx, float sy, bool swap) {
+// The faces' bounds after a mirror (and a swap of the axes), sorted.
+std::vector<Bounds> mirrored(const Objects& faces, float sx, float sy, bool swap = false) {
     std::vector<Bounds> all;
     for (const auto& face : faces) {
         Bounds b = boundsOf(*face);
@@ -198,28 +187,27 @@ std::vector<Bounds> faceBounds(const Objects& faces, float sx, float sy, bool sw
 
 TEST_F(BarSolid, TheFourDirectionsAreMirrorsOfEachOther) {
     const float up[4] = {100, 100, 160, 300}, down[4] = {100, -300, 160, -100};
-    const float left[4] = {-300, 100, -100, 160}, rightRect[4] = {100, 100, 300, 160};
-    const float across[4] = {100, 100, 300, 160};  // the upright bar, transposed
+    const float right[4] = {100, 100, 300, 160}, left[4] = {-300, 100, -100, 160};
     for (short shape = 1; shape <= 6; ++shape) {
         for (const bool opaque : {true, false}) {
             SCOPED_TRACE(testing::Message() << shape << (opaque ? " opaque" : " clear"));
+            // Mirrored, a turn of the profile runs the other way.
             const Objects a = faces(up, 1, shape, receding(24, 16), opaque, 20);
-            // Upside down: the back lies below, the turn runs the other way.
             const Objects b = faces(down, 2, shape, receding(24, -16), opaque, -20);
-            EXPECT_EQ(faceBounds(a, 1, 1, false), faceBounds(b, 1, -1, false));
-            // Bars along x, mirrored left to right.
-            const Objects c = faces(rightRect, 4, shape, receding(16, 24), opaque, 20);
+            EXPECT_EQ(mirrored(a, 1, 1), mirrored(b, 1, -1));
+            const Objects c = faces(right, 4, shape, receding(16, 24), opaque, 20);
             const Objects d = faces(left, 3, shape, receding(-16, 24), opaque, -20);
-            EXPECT_EQ(faceBounds(c, 1, 1, false), faceBounds(d, -1, 1, false));
-            // The upright bar across the diagonal is a bar to the left.
-            const Objects e = faces(across, 3, shape, receding(-16, -24), opaque, -20);
-            EXPECT_EQ(faceBounds(a, 1, 1, false), faceBounds(e, 1, 1, true));
+            EXPECT_EQ(mirrored(c, 1, 1), mirrored(d, -1, 1));
+            // Across the diagonal, an upright bar is a bar to the left.
+            const Objects e = faces(right, 3, shape, receding(-16, -24), opaque, -20);
+            EXPECT_EQ(mirrored(a, 1, 1), mirrored(e, 1, 1, true));
         }
     }
 }
 
-TEST_F(BarSolid, BarsOfNoSizeGiveFiniteFacesInsideTheirBox) {
-    const float rects[][4] = {{100, 200, 160, 200}, {100, 100, 100, 300}, {50, 50, 50, 50}};
+TEST_F(BarSolid, BarsOfAnySizeGiveFiniteFacesInsideTheirBox) {
+    const float rects[][4] = {
+        {100, 100, 160, 300}, {100, 200, 160, 200}, {100, 100, 100, 300}, {50, 50, 50, 50}};
     for (const auto& rect : rects) {
         for (const auto& depth : {receding(24, 16), receding(0, 0), receding(24, 16, 0.4f)}) {
             float x[8], y[8];
@@ -228,41 +216,20 @@ TEST_F(BarSolid, BarsOfNoSizeGiveFiniteFacesInsideTheirBox) {
                                 *std::max_element(x, x + 8), *std::max_element(y, y + 8)};
             for (short direction = 1; direction <= 4; ++direction) {
                 for (short shape = 0; shape <= 6; ++shape) {
-                    SCOPED_TRACE(testing::Message() << rect[0] << " " << rect[1] << " dir "
-                                                    << direction << " shape " << shape);
-                    Objects all = faces(rect, direction, shape, depth, false);
-                    auto path = vxBarSolid::outline(rect, direction, *profile(shape), depth);
-                    ASSERT_TRUE(path);
-                    all.push_back(std::move(path));
-                    for (const auto& shape : all) {
-                        const Bounds b = boundsOf(*shape);
+                    SCOPED_TRACE(testing::Message() << rect[2] - rect[0] << "x" << rect[3] - rect[1]
+                                                    << " dir " << direction << " shape " << shape);
+                    Objects all = faces(rect, direction, shape, depth, false, 15);
+                    all.push_back(vxBarSolid::outline(rect, direction, *profile(shape), depth));
+                    for (const auto& object : all) {
+                        ASSERT_TRUE(object);
+                        const Bounds b = boundsOf(*object);
                         for (float v : b) ASSERT_TRUE(std::isfinite(v));
-                        EXPECT_TRUE(b[0] >= box[0] - 1e-3f && b[1] >= box[1] - 1e-3f &&
-                                    b[2] <= box[2] + 1e-3f && b[3] <= box[3] + 1e-3f);
+                        EXPECT_TRUE(isInside(b, box));
                     }
                 }
             }
         }
     }
-}
-
-TEST_F(BarSolid, ACylinderIsShadedAcrossWhenItsFillIsAPlainColour) {
-    const Objects cylinder = faces(kRect, 1, 1, receding(24, 16));
-    ASSERT_EQ(cylinder.size(), 2u);
-    const auto* shading = dynamic_cast<const vxGradientPaint*>(
-        const_cast<vxGObjectOLD&>(*cylinder[0]).getAppearance()->getFillPaint());
-    ASSERT_TRUE(shading);
-    short lightest = 0, darkest = 255;
-    for (long i = 0; i < shading->getNumOfColors(); ++i) {
-        lightest = std::max(lightest, shading->getColor(i)->getRed());
-        darkest = std::min(darkest, shading->getColor(i)->getRed());
-    }
-    EXPECT_GE(lightest, 196);  // almost facing the front
-    EXPECT_LE(darkest, 160);   // the silhouettes turn away
-    // A hatched fill keeps its pattern, darkened as a side.
-    fill.setPatternIndex(5);
-    const Objects hatched = faces(kRect, 1, 1, receding(24, 16));
-    EXPECT_EQ(hatched[0]->getAppearance()->getFillPaint()->getType(), vxPaintOLD::kBasic);
 }
 
 }  // namespace
