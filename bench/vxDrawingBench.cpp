@@ -3,11 +3,9 @@
 // out and write it as SVG or as PNG.
 #include <benchmark/benchmark.h>
 
-#include <filesystem>
-#include <sstream>
 #include <string>
 
-#include "velarix/vxCommand.h"
+#include "vxBenchScript.h"
 
 namespace {
 
@@ -37,15 +35,7 @@ std::string mixedScript(const char* saveCall) {
 }
 
 void runScript(benchmark::State& state, const char* saveCall) {
-    const std::string script = mixedScript(saveCall);
-    const std::string folder = (std::filesystem::temp_directory_path() / "velarix-bench").string();
-    std::filesystem::create_directories(folder);
-    for (auto _ : state) {
-        std::istringstream in(script);
-        std::ostringstream out, err;
-        const int status = Velarix::vxVelarixMain({"--base", folder}, in, out, err);
-        if (status != 0) state.SkipWithError(err.str().c_str());
-    }
+    Velarix::bench::runScriptInProcess(state, mixedScript(saveCall));
 }
 
 void BM_MixedPrimitivesToSVG(benchmark::State& state) {
