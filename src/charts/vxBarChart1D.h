@@ -18,8 +18,13 @@
 
 namespace Velarix {
 
+class vxGObjectOLD;
 class vxLabel;
+class vxLabelStyle;
 class vxLayer;
+class vxPaintOLD;
+class vxPath2DOLD;
+class vxShadowOLD;
 
 class vxBarChart1D : public vxBaseChart {
 public:
@@ -79,11 +84,42 @@ protected:
     bool createBarVectors();
     bool startBars(float& zero, float& sign);
     void recede();
+    // The look of bar (s, c): with split colours, series s takes the
+    // styles 2s and 2s + 1 for values at or above and below the reference.
+    Look getBarLook(long series, long item) const;
+    long getStyleSeries(long series, long item) const;
+    bool doUseAliasedShapes() const;
+    // ---- layers (vxBarChart1DLayers.cpp) ----
     void addFlatBars(vxLayerManager& layerMng, long series);
     void addDepthBars(vxLayerManager& layerMng);
-    void addBox(vxLayer& layer, long series, long item);
+    std::unique_ptr<vxGObjectOLD> makeFlatBar(long series, long item) const;
+    bool haveOneLook(long series) const;
+    std::unique_ptr<vxGObjectOLD> makeMergedBars(long series) const;
+    void outlineBar(vxPath2DOLD& path, long series, long item) const;
+    void addDepthBar(vxLayer& layer, long series, long item) const;
+    void addBox(vxLayer& layer, const float rect[4], const Look& look) const;
+    // A picture fill laid over the bar: stretched to it, or one picture a
+    // stack unit from the base. Null for other fills.
+    std::unique_ptr<vxPaintOLD> barPicture(long series, long item, const Look& look) const;
+    // ---- shadows, symbols, connecting lines (vxBarChart1DExtras.cpp) ----
+    void addShadows(vxLayerManager& layerMng);
+    std::unique_ptr<vxGObjectOLD> makeShadow(long series, long item,
+                                             const vxShadowOLD& shadow) const;
+    void addSymbols(vxLayerManager& layerMng, long series);
+    void addConnectingLines(vxLayerManager& layerMng);
+    std::unique_ptr<vxGObjectOLD> makeConnectingLine(long series, const vxPaintOLD* paint) const;
+    // The middle of the bar's value end.
+    void getValueEnd(long series, long item, float point[2]) const;
+    // Hands a layer to the manager unless it stayed empty (but for its clip).
+    void handOver(vxLayerManager& layerMng, std::unique_ptr<vxLayer> layer);
+    // ---- labels (vxBarChart1DLabels.cpp) ----
     void addLabels(vxLayerManager& layerMng);
+    void addTotals(vxLayer& layer);
     std::unique_ptr<vxLabel> makeLabel(long series, long item);
+    std::unique_ptr<vxLabel> placeLabel(const vxLabelStyle& style, const std::wstring& text,
+                                        float rect[4], short location, short direction, float gap);
+    // The totals of item c's stack above and below the reference.
+    void getStackTotals(long item, double& positive, double& negative) const;
     size_t indexOf(long series, long item) const {
         return static_cast<size_t>(series * numOfCategories + item);
     }

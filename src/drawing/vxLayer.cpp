@@ -65,12 +65,17 @@ vxGObjectOLD* vxLayer::getShape(long index) const {
 void vxLayer::draw(vxDevice& device) {
     if (!visible) return;
     device.setClipRegion(clipRect);
+    if (aliasedShapes) device.useAliasedShapes(true);
     for (long index : drawingIndices) {
         vxGObjectOLD* shape = getShape(index);
         if (!shape) continue;
         shape->draw(device);
-        if (shape->isError()) return copyError(shape->getError());
+        if (shape->isError()) {
+            copyError(shape->getError());
+            break;
+        }
     }
+    if (aliasedShapes) device.useAliasedShapes(false);
 }
 
 void vxLayer::dump(short depth, std::ostream& out) const {

@@ -48,6 +48,9 @@ public:
     void setClipRect(const float rect[4]);
     // -1 draws as the device is set; 0 and 1 switch fractional metrics off
     // and on for this layer.
+    // The layer's shapes are drawn without smoothing.
+    bool doUseAliasedShapes() const { return aliasedShapes; }
+    void setUseAliasedShapes(bool value) { aliasedShapes = value; }
     short getFractionalMetricsOverride() const { return fractionalMetricsOverride; }
     void setFractionalMetricsOverride(short value) { fractionalMetricsOverride = value; }
     long getObjectIndex() const { return objectIndex; }
@@ -62,6 +65,7 @@ private:
     long subTypeID;
     float clipRect[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     short fractionalMetricsOverride = -1;
+    bool aliasedShapes = false;
     long objectIndex = -1;
     std::vector<long> drawingIndices;
     std::vector<vxGObjectOLD*> shapes;

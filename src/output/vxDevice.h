@@ -123,6 +123,10 @@ public:
     virtual void setCreator(const std::wstring& text) {}
 
     virtual void setUp(const vxDrawingSpecs& specs);
+    // Shapes too fine for smoothing (bars a few pixels wide) are drawn with
+    // hard edges for a while, where the device smooths at all; text keeps
+    // its own setting.
+    virtual void useAliasedShapes(bool value) {}
     virtual float getWidth() const;
     virtual float getHeight() const;
     virtual void getSize(float size[2]) const;

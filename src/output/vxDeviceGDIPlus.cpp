@@ -107,6 +107,12 @@ bool vxDeviceGDIPlus::createCanvas() {
     return false;
 }
 
+void vxDeviceGDIPlus::useAliasedShapes(bool value) {
+    if (!isDrawing()) return;
+    const bool smooth = getAntialiasing() != 0 && !value;
+    cairo_set_antialias(cr.get(), smooth ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+}
+
 // Antialiasing, then the default pen (width 1, square caps, miter joins
 // with limit 10) and brush (opaque black).
 void vxDeviceGDIPlus::setUpContext() {

@@ -175,6 +175,7 @@ private:
     bool checkStatus(const wchar_t* method, int number = 1);
     bool reportCairoStatus(cairo_status_t status, const wchar_t* method, int number);
     bool isDrawing() const { return cr != nullptr && !isError(); }
+    void useAliasedShapes(bool value) override;
     // A coordinate as the route takes it: whole pixels on a bitmap.
     double at(float value) const;
     bool isTextAntialiased() const;
@@ -269,6 +270,7 @@ private:
     // The context's current state, for the hot paths.
     Pen pen;
     bool hasSolidSource = false;
+    short fillRule = -1;  // -1: unknown
     double sourceRGBA[4] = {0, 0, 0, 0};
     vxCairoPattern hatch;
     short hatchIndex = 0;

@@ -111,6 +111,7 @@ uint32_t pixelOf(int red, int green, int blue, int alpha) {
 void vxDeviceGDIPlus::forgetContextState() {
     pen = Pen();
     hasSolidSource = false;
+    fillRule = -1;
     currentFontFace = nullptr;
     currentFontSize = 0.0;
 }

@@ -185,7 +185,11 @@ void vxDeviceGDIPlus::fillShape(const vxPaintOLD& paint, const float bounds[4], 
         return;
     }
     beginShape();
-    cairo_set_fill_rule(c, windingRule == 1 ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+    const short rule = windingRule == 1 ? 1 : 0;
+    if (rule != fillRule) {
+        cairo_set_fill_rule(c, rule == 1 ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
+        fillRule = rule;
+    }
     cairo_fill(c);
     endShape();
 }

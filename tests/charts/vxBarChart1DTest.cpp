@@ -149,5 +149,39 @@ TEST_F(ChartScript, LabelsStandAtTheirBars) {
     EXPECT_NEAR((box[1] + box[3]) / 2, (bar[1] + bar[3]) / 2, 1.0f);
 }
 
+TEST_F(ChartScript, BarsOfASeriesShareAShapeUnlessTheirLooksDiffer) {
+    const auto barLayers = [this](std::vector<long>& shapes, std::vector<bool>& aliased) {
+        vxLayerManager layers;
+        chart().setUpLayers(&layers);
+        ASSERT_FALSE(chart().isError());
+        for (long i = 0; i < layers.getNumOfLayers(); ++i) {
+            const vxLayer* layer = layers.getLayer(i);
+            if (layer->getTypeID() != 5) continue;
+            shapes.push_back(layer->getNumOfShapes() - 1);  // less the clip
+            aliased.push_back(layer->doUseAliasedShapes());
+        }
+    };
+    std::vector<long> shapes;
+    std::vector<bool> aliased;
+    // One plain colour a series: one shape a series, the last series first.
+    ASSERT_EQ(run(L"BarChart()\nChartData(1 2 3; 4 5 6)\nFillStyle(2 2; #ff0000)\n"), 0);
+    barLayers(shapes, aliased);
+    EXPECT_EQ(shapes, std::vector<long>({3, 1}));
+    // Split colours give the values below the reference a style of their
+    // own: the bars are drawn one by one.
+    shapes.clear();
+    ASSERT_EQ(run(L"BarChart()\nChartData(1 -2 3)\nBarChartOptions(0; 0; 1)\n"), 0);
+    barLayers(shapes, aliased);
+    EXPECT_EQ(shapes, std::vector<long>({3}));
+    // Two hundred bars of two pixels draw without smoothing.
+    std::wstring values;
+    for (int i = 1; i <= 200; ++i) values += std::to_wstring(i) + L" ";
+    shapes.clear();
+    aliased.clear();
+    ASSERT_EQ(run(L"BarChart()\nChartData(" + values + L")\n"), 0);
+    barLayers(shapes, aliased);
+    EXPECT_EQ(aliased, std::vector<bool>({true}));
+}
+
 }  // namespace
 }  // namespace Velarix::test
