@@ -10,7 +10,7 @@ out=$(realpath "$out")
 # Data files the scripts read lie beside them.
 cp "$examples"/data/* "$out"/ 2>/dev/null || true
 status=0
-for script in "$examples"/*.vxs; do
+for script in "$examples"/*.vxs "$examples"/charts/*.vxs; do
     name=$(basename "$script" .vxs)
     if "$velarix" --base "$out" "$script"; then
         echo "rendered $name"

@@ -106,6 +106,12 @@ void vxBarChart1D::setUpBarWidth(double nC, int errorPlace) {
     }
 }
 
+void vxBarChart1D::updateDepth() {
+    if (!useRelativeDepth || depthPercent <= 0.0f || !getIntervalAxis()) return;
+    setUpBarDimensions();
+    clearError();
+}
+
 // The script's depths are distances: the back of a box lies up and to the
 // right of its front, which the projection reads as negative depths.
 void vxBarChart1D::recede() {

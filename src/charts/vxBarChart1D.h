@@ -42,6 +42,7 @@ public:
     void setDefaults() override;
     void setUp() override;
     void setUpLayers(vxLayerManager* layerMng) override;
+    void updateDepth() override;
 
     // Bar width and gaps in device units; error 5010 when no width is left.
     void setUpBarDimensions();

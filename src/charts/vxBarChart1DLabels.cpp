@@ -82,12 +82,15 @@ std::unique_ptr<vxLabel> vxBarChart1D::makeLabel(long s, long c) {
     const bool stacked = getParameters().isStacked();
     if (!stacked && !isInAxisRange(v)) return nullptr;
     const std::wstring& format = style->getText(c + 1);
-    const double shown = getParameters().isProportional() ? getProportionalValue(s, c) : v;
-    std::wstring text = formatLabelString(kNumber, shown, format);
+    double positive = 0.0, negative = 0.0;
+    if (stacked) getStackTotals(c, positive, negative);
+    // A proportional chart shows each value as its share of the larger
+    // total of its stack.
+    const double scale = std::max(positive, -negative);
+    const bool share = getParameters().isProportional() && scale > 1e-10;
+    std::wstring text = formatLabelString(kNumber, share ? v / scale : v, format);
     if (text.empty()) return nullptr;
     if (stacked && styles.getStackedLabelStyle()) {
-        double positive = 0.0, negative = 0.0;
-        getStackTotals(c, positive, negative);
         const double total = std::fabs(v >= 0.0 ? positive : negative);
         if (total > 1e-10) {
             // Without a format of its own a share shows one decimal.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "graphics/vxLineShape.h"
 #include "host/vxLog.h"
 #include "styles/vxBorderStyle.h"
 #include "styles/vxFillStyle.h"
@@ -123,7 +124,9 @@ vxBaseChart::Look vxBaseChart::getAreaLook(long series, long item) const {
     if (const vxFillStyle* fill = styleManager->getFillStyle(series + 1, item + 1)) {
         look.fill = fill->getPaint();
     }
-    if (const vxBorderStyle* border = styleManager->getBorderStyle(series + 1, item + 1)) {
+    // A border of line type "none" draws nothing.
+    const vxBorderStyle* border = styleManager->getBorderStyle(series + 1, item + 1);
+    if (border && border->getShape().getType() != 0) {
         look.stroke = border->getStroke();
         look.border = border->getPaint();
     }

@@ -39,6 +39,9 @@ public:
 
     virtual short getChartType() const { return parameters.getChartType(); }
     virtual void setUp() = 0;
+    // A depth that follows from the axes (a share of the bar width) is
+    // worked out again for the axes as they stand.
+    virtual void updateDepth() {}
     virtual void setUpLayers(vxLayerManager* layerMng) = 0;
     // The chart's ...ChartOptions call.
     virtual void setOptions(vxAssign& assign) {}

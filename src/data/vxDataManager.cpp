@@ -32,6 +32,7 @@ void vxDataManager::init() {
     stackedSeries.clear();
     sortIndices.clear();
     maxPositiveStackedSum = minNegativeStackedSum = 0.0;
+    maxPositiveProportionalSum = minNegativeProportionalSum = 0.0;
     totalPositiveStackedSum = totalNegativeStackedSum = 0.0;
     if (rawInput) rawInput->init();
 }

@@ -79,6 +79,9 @@ public:
     double getStackedValue(long series, long item) const;
     double getProportionalValue(long series, long item) const;
     double getMaxPositiveStackedSum() const { return maxPositiveStackedSum; }
+    // The same for the stacks of shares (of a proportional chart): 1 at most.
+    double getMaxPositiveProportionalSum() const { return maxPositiveProportionalSum; }
+    double getMinNegativeProportionalSum() const { return minNegativeProportionalSum; }
     double getMinNegativeStackedSum() const { return minNegativeStackedSum; }
     double getTotalPositiveStackedSum() const { return totalPositiveStackedSum; }
     double getTotalNegativeStackedSum() const { return totalNegativeStackedSum; }
@@ -112,6 +115,8 @@ private:
     std::unique_ptr<vxDataToFile> writeFile;
     std::vector<long> sortIndices;
     double maxPositiveStackedSum = 0.0;
+    double maxPositiveProportionalSum = 0.0;
+    double minNegativeProportionalSum = 0.0;
     double minNegativeStackedSum = 0.0;
     double totalPositiveStackedSum = 0.0;
     double totalNegativeStackedSum = 0.0;

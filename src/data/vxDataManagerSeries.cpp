@@ -25,6 +25,7 @@ constexpr long kStackedPosition = 1;
 void vxDataManager::setUpStackedValues(const vxBaseChartParameters& chart) {
     stackedSeries.clear();
     maxPositiveStackedSum = minNegativeStackedSum = 0.0;
+    maxPositiveProportionalSum = minNegativeProportionalSum = 0.0;
     totalPositiveStackedSum = totalNegativeStackedSum = 0.0;
     if (!chart.isStacked()) return;
     const long c = getNumOfChartSeries();
@@ -43,6 +44,10 @@ void vxDataManager::setUpStackedValues(const vxBaseChartParameters& chart) {
         if (chart.isProportional()) stack->setUpProportionalValues();
         maxPositiveStackedSum = std::max(maxPositiveStackedSum, stack->getPositiveStackedSum());
         minNegativeStackedSum = std::min(minNegativeStackedSum, stack->getNegativeStackedSum());
+        maxPositiveProportionalSum =
+            std::max(maxPositiveProportionalSum, stack->getPositiveProportionalSum());
+        minNegativeProportionalSum =
+            std::min(minNegativeProportionalSum, stack->getNegativeProportionalSum());
         totalPositiveStackedSum += stack->getPositiveStackedSum();
         totalNegativeStackedSum += stack->getNegativeStackedSum();
         try {

@@ -80,7 +80,8 @@ private:
     void fitPlot(int rounds);
     void squarePlot();
     bool needsSquarePlot() const;
-    void setUpAxisScalings();
+    void setUpAxisScalings(const float plot[4]);
+    void frontOfPlot(float front[4]) const;
     // The span of each axis by chart type (vxChartAxisLimits.cpp).
     bool createAuxScalingVectors(long count);
     void setUpAxisItems();

@@ -106,8 +106,12 @@ void vxChart::setUpDefaultLimits() {
     for (long i = 0; i < n; ++i) take(0, i, 0);
     if (axisMinValues.size() < 2) return;
     if (parameters->isStacked()) {
-        axisMinValues[1] = dataManager->getMinNegativeStackedSum();
-        axisMaxValues[1] = dataManager->getMaxPositiveStackedSum();
+        // Proportional stacks show shares of their totals.
+        const bool shares = parameters->isProportional();
+        axisMinValues[1] = shares ? dataManager->getMinNegativeProportionalSum()
+                                  : dataManager->getMinNegativeStackedSum();
+        axisMaxValues[1] = shares ? dataManager->getMaxPositiveProportionalSum()
+                                  : dataManager->getMaxPositiveStackedSum();
         if (n > 0) axisDataTypes[1] = dataManager->getDataType(0, 1);
         return;
     }

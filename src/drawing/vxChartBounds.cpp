@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "axes/vxAxisManager.h"
+#include "charts/vxBaseChart.h"
 #include "charts/vxBaseChartParameters.h"
 #include "drawing/vxChart.h"
 #include "graphics/vxBoundsUnion.h"
@@ -35,6 +36,9 @@ bool vxChart::hasAxes() const {
 
 void vxChart::setUpBounds() {
     std::copy(frame, frame + 4, chartBounds);
+    if (chartType) {
+        chartType->setManagers(dataManager.get(), axisManager.get(), styleManager.get());
+    }
     if (hasAxes()) {
         setUpAxisItems();
         if (!isError()) setUpAxisLimits();
@@ -70,7 +74,9 @@ void vxChart::setUpBoundsOfFixedPlot() {
         chartBounds[i] = graphBounds[i] + out * chartMargins[i];
     }
     if (isPlotAreaTooSmall() || isGraphAreaTooSmall()) return;
-    fitPlot(1);
+    // The plot stays; a second round scales the axes for the front of a
+    // plot whose depth follows from the first.
+    fitPlot(2);
 }
 
 bool vxChart::isGraphAreaTooSmall() {
@@ -109,14 +115,38 @@ void vxChart::fitPlot(int rounds) {
         squarePlot();
         if (!hasAxes()) return;
         if (plotBounds[2] - plotBounds[0] < 1.0f || plotBounds[3] - plotBounds[1] < 1.0f) return;
-        setUpAxisScalings();
+        float front[4];
+        frontOfPlot(front);
+        setUpAxisScalings(front);
         if (isError()) return;
+        if (chartType) chartType->updateDepth();
         float outer[4];
         if (!fixed) std::copy(plotBounds, plotBounds + 4, graphBounds);
         bool hasBounds = true;
         if (axisManager->getOuterBounds(outer)) vxUniteBounds(graphBounds, outer, hasBounds);
     }
     squarePlot();
+    if (hasAxes()) {
+        float front[4];
+        frontOfPlot(front);
+        std::copy(front, front + 4, plotBounds);
+    }
+}
+
+// The plot of a chart with depth is its front face: the backs of its
+// bars stand in the room the depth leaves behind it.
+void vxChart::frontOfPlot(float front[4]) const {
+    std::copy(plotBounds, plotBounds + 4, front);
+    if (!chartType || !chartType->getDepthInfo().isDepth()) return;
+    const float dx = chartType->getDepthInfo().getXDepth();
+    const float dy = chartType->getDepthInfo().getYDepth();
+    front[0] += std::max(0.0f, dx);
+    front[2] -= std::max(0.0f, -dx);
+    front[1] += std::max(0.0f, -dy);
+    front[3] -= std::max(0.0f, dy);
+    // A depth larger than the plot leaves a sliver.
+    if (front[2] - front[0] < 1.0f) front[2] = front[0] + 1.0f;
+    if (front[3] - front[1] < 1.0f) front[3] = front[1] + 1.0f;
 }
 
 // Pies and the round charts stand in the largest centred square of the
@@ -146,7 +176,7 @@ bool vxChart::needsSquarePlot() const {
     return type >= kPieChart && type <= kLastRoundChart;
 }
 
-void vxChart::setUpAxisScalings() {
+void vxChart::setUpAxisScalings(const float plot[4]) {
     std::vector<vxAxisManager::AxisSpan> spans;
     for (size_t k = 0; k < axisMinValues.size(); ++k) {
         vxAxisManager::AxisSpan span;
@@ -163,7 +193,7 @@ void vxChart::setUpAxisScalings() {
     }
     axisManager->setIsHorizontal(parameters->isHorizontal());
     vxUserSettings* settings = getOwnerSettings();
-    axisManager->setUpCartesian(plotBounds, spans, parameters->getChartType(),
+    axisManager->setUpCartesian(plot, spans, parameters->getChartType(),
                                 isBarOrAreaDateTimeChart(parameters->getChartType()),
                                 settings ? settings->getFormatSettings() : nullptr);
     if (axisManager->isError()) copyError(axisManager->getError());

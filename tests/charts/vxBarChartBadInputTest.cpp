@@ -169,7 +169,9 @@ TEST_F(BarChartBadInput, AwkwardDataDrawsOrNamesItsError) {
         {"depth", "BarChart(;;;60)", "5 -3 8; 1 7 2", 0, 6, 3},
         {"depth, stacked and horizontal, huge", "BarChart(24;;;60)", "1e300 -1e300; 3e299 -4e299",
          0, 4, 3},
-        {"deep boxes of absolute depth", "BarChart(;;;1000 1000 30;0)", "1e300 -1e300", 0, 2, 3},
+        // A depth beyond the frame leaves no room for the plot.
+        {"boxes deeper than the frame", "BarChart(;;;1000 1000 30;0)", "1e300 -1e300", 2200, 0, 0},
+        {"deep boxes of absolute depth", "BarChart(;;;100 80 30;0)", "1e300 -1e300", 0, 2, 3},
         {"100,000 categories", "BarChart()", hundredThousandCategories(), 0, 100, 1},
     };
     for (const BadInput& c : cases) check(c);

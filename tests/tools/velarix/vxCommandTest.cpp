@@ -111,11 +111,14 @@ TEST(VelarixBinary, RendersEveryExample) {
     for (const auto& data : fs::directory_iterator(fs::path(VELARIX_EXAMPLES_DIR) / "data")) {
         fs::copy_file(data.path(), fs::path(folder) / data.path().filename());
     }
-    for (const auto& entry : fs::directory_iterator(VELARIX_EXAMPLES_DIR)) {
+    long count = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(VELARIX_EXAMPLES_DIR)) {
         if (entry.path().extension() != ".vxs") continue;
+        ++count;
         RunResult r = runVelarixBinary("--base " + folder + " " + entry.path().string());
         EXPECT_EQ(r.status, 0) << entry.path() << "\n" << r.err;
     }
+    EXPECT_GE(count, 14);  // the examples at the top and the charts
 }
 
 // The log records the stages of a run in their order.
