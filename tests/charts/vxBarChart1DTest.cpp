@@ -5,13 +5,18 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "axes/vxAxisScaling.h"
 #include "axes/vxAxisTestSupport.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "graphics/vxLabel.h"
 #include "graphics/vxText.h"
+#include "graphics/vxTexturePaintOLD.h"
 #include "script/vxAssign.h"
+#include "support/vxPictureFiles.h"
 
 namespace Velarix::test {
 namespace {
@@ -181,6 +186,43 @@ TEST_F(ChartScript, BarsOfASeriesShareAShapeUnlessTheirLooksDiffer) {
     ASSERT_EQ(run(L"BarChart()\nChartData(" + values + L")\n"), 0);
     barLayers(shapes, aliased);
     EXPECT_EQ(aliased, std::vector<bool>({true}));
+}
+
+TEST_F(ChartScript, PicturesStandOnTheBaseOfTheirBars) {
+    const auto path = std::filesystem::temp_directory_path() / "vxBarChartPicture.png";
+    std::ofstream(path, std::ios::binary) << encodePNG(makePicture(4, 4));
+    const auto anchorOf = [this](float anchor[4]) {
+        vxLayerManager layers;
+        chart().setUpLayers(&layers);
+        for (long i = 0; i < layers.getNumOfLayers(); ++i) {
+            if (layers.getLayer(i)->getTypeID() != 5) continue;
+            auto* paint = dynamic_cast<const vxTexturePaintOLD*>(
+                layers.getLayer(i)->getShape(1)->getFillPaint());
+            ASSERT_NE(paint, nullptr);
+            paint->getAnchorBounds(anchor);
+        }
+    };
+    float bar[4], anchor[4];
+    // One picture for every 10: the first stands on the base, as tall as
+    // 10 on the value axis.
+    ASSERT_EQ(
+        run(L"BarChart()\nChartData(35)\nPictureStyle(1; file; \"" + path.wstring() + L"\"; 10)\n"),
+        0)
+        << message();
+    anchorOf(anchor);
+    dynamic_cast<vxBarChart1D*>(chart().getChartType())->getBarRect(0, 0, bar);
+    EXPECT_FLOAT_EQ(anchor[0], bar[0]);
+    EXPECT_FLOAT_EQ(anchor[2], bar[2]);
+    EXPECT_FLOAT_EQ(anchor[3], bar[3]);
+    EXPECT_NEAR(anchor[3] - anchor[1], axis(1).toDC(0) - axis(1).toDC(10), 1e-3);
+    // Without a stack value the picture is stretched over the bar; a bar
+    // hanging from the reference has its base at the top.
+    ASSERT_EQ(
+        run(L"BarChart()\nChartData(-35)\nPictureStyle(1; file; \"" + path.wstring() + L"\")\n"),
+        0);
+    anchorOf(anchor);
+    dynamic_cast<vxBarChart1D*>(chart().getChartType())->getBarRect(0, 0, bar);
+    EXPECT_EQ(std::vector<float>(anchor, anchor + 4), std::vector<float>(bar, bar + 4));
 }
 
 }  // namespace
