@@ -7,6 +7,7 @@
 #include "charts/vxBarChart1D.h"
 #include "charts/vxBarOutline.h"
 #include "charts/vxBarSolid.h"
+#include "charts/vxChartLayerTypes.h"
 #include "charts/vxChartShapes.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
@@ -25,10 +26,8 @@ namespace Velarix {
 
 namespace {
 
-constexpr long kSymbolLayer = 1;
-constexpr long kLineLayer = 2;
-constexpr long kLineShadowLayer = 13;
-constexpr long kBarShadowLayer = 16;
+constexpr long kLineShadowLayer = vxShadowLayerOf(kLineLayer);
+constexpr long kBarShadowLayer = vxShadowLayerOf(kBarLayer);
 
 const vxShadowOLD* shadowOf(const vxStyleManager* styles, long s) {
     const vxShadowStyle* style = styles ? styles->getShadowStyle(s + 1, 1) : nullptr;
@@ -145,7 +144,7 @@ void vxBarChart1D::addSymbols(vxLayerManager& layerMng, long s) {
 
 void vxBarChart1D::addConnectingLines(vxLayerManager& layerMng) {
     const vxStyleManager* styles = getStyleManager();
-    auto layer = std::make_unique<vxLayer>(kLineLayer, -1, getExtendedPlotBounds());
+    auto layer = std::make_unique<vxLayer>(kLineLayer, kWholeChart, getExtendedPlotBounds());
     layer->addClipShape(nullptr);
     for (long s = getNumOfChartSeries() - 1; s >= 0; --s) {
         const vxLineStyle* style = styles ? styles->getLineStyle(s + 1, 1) : nullptr;

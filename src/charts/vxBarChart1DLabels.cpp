@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "charts/vxBarChart1D.h"
+#include "charts/vxChartLayerTypes.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "graphics/vxBasicStroke.h"
@@ -21,7 +22,6 @@ namespace Velarix {
 
 namespace {
 
-constexpr long kLabelLayer = 23;
 constexpr short kCenter = 5;
 constexpr short kSmartOut = 8;
 // Where the totals of stacks stand.
@@ -48,7 +48,8 @@ void vxBarChart1D::addLabels(vxLayerManager& layerMng) {
     std::unique_ptr<vxLayer> layer;
     for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s) {
         if (!layer) {
-            layer = std::make_unique<vxLayer>(kLabelLayer, stacked ? -1 : s, getLabelClipRect());
+            layer = std::make_unique<vxLayer>(kLabelLayer, stacked ? kWholeChart : s,
+                                              getLabelClipRect());
             layer->addClipShape(nullptr);
         }
         for (long c = 0; c < numOfCategories; ++c) {

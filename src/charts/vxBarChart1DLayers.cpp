@@ -11,6 +11,7 @@
 #include "charts/vxBarChart1D.h"
 #include "charts/vxBarOutline.h"
 #include "charts/vxBarSolid.h"
+#include "charts/vxChartLayerTypes.h"
 #include "charts/vxChartShapes.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
@@ -23,8 +24,6 @@
 namespace Velarix {
 
 namespace {
-
-constexpr long kBarLayer = 5;
 
 // Faces of a box: corner indices of the projection and how much darker
 // than the front they are.

@@ -4,6 +4,7 @@
 #include "charts/vxBarChart1D.h"
 #include "charts/vxBarChart2D.h"
 #include "charts/vxBaseChartParameters.h"
+#include "charts/vxChartLayerTypes.h"
 #include "charts/vxChartTypeTable.h"
 #include "data/vxDataManager.h"
 #include "drawing/vxAdditionBuilder.h"
@@ -202,7 +203,9 @@ void vxChart::setUpPlotLayers(vxLayerManager* layerMng) {
 void vxChart::setUpAdditionLayers(vxLayerManager* layerMng) {
     if (additions.empty()) return;
     std::unique_ptr<vxLayer> layer;
-    if (!create(layer, L"setUpAdditionLayers", kTypeChart, 0, layerMng->getCurrentClipRect())) {
+    const long subtype = parameters ? parameters->getChartType() : 0;
+    if (!create(layer, L"setUpAdditionLayers", long(kAdditionLayer), subtype,
+                layerMng->getCurrentClipRect())) {
         return;
     }
     layer->addClipShape(getOwnerSettings());
