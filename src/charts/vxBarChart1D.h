@@ -95,7 +95,7 @@ protected:
     void addDepthBars(vxLayerManager& layerMng);
     std::unique_ptr<vxGObjectOLD> makeFlatBar(long series, long item) const;
     bool haveOneLook(long series) const;
-    std::unique_ptr<vxGObjectOLD> makeMergedBars(long series) const;
+    std::unique_ptr<vxGObjectOLD> makeMergedBars(long series, long from, long to) const;
     void outlineBar(vxPath2DOLD& path, long series, long item) const;
     void addDepthBar(vxLayer& layer, long series, long item) const;
     void addBox(vxLayer& layer, const float rect[4], const Look& look) const;

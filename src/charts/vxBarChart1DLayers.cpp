@@ -42,6 +42,11 @@ constexpr Face kRight{{5, 1, 2, 6}, 0.25f};
 // direction the bar grows.
 constexpr short kPictureAlignment[5] = {0, 8, 2, 6, 4};
 
+// Bars of one look go to the device in shapes of this many: a colour
+// change every so many bars, and outlines short enough for the raster's
+// stroker, whose work grows faster than the number of pieces of a shape.
+constexpr long kBarsPerShape = 256;
+
 }  // namespace
 
 void vxBarChart1D::setUpLayers(vxLayerManager* layerMng) {
@@ -94,7 +99,11 @@ void vxBarChart1D::addFlatBars(vxLayerManager& layerMng, long s) {
     layer->addClipShape(nullptr);
     layer->setUseAliasedShapes(doUseAliasedShapes());
     if (haveOneLook(s)) {
-        layer->addShape(makeMergedBars(s));
+        for (long from = 0; from < numOfCategories; from += kBarsPerShape) {
+            if (auto bars = makeMergedBars(s, from, from + kBarsPerShape)) {
+                layer->addShape(std::move(bars));
+            }
+        }
     } else {
         for (long c = 0; c < numOfCategories; ++c) {
             if (isDrawable(s, c)) layer->addShape(makeFlatBar(s, c));
@@ -130,17 +139,19 @@ bool vxBarChart1D::haveOneLook(long s) const {
     return first != nullptr;
 }
 
-std::unique_ptr<vxGObjectOLD> vxBarChart1D::makeMergedBars(long s) const {
+// The bars of items from `from` up to `to`, or null for none.
+std::unique_ptr<vxGObjectOLD> vxBarChart1D::makeMergedBars(long s, long from, long to) const {
     auto path = std::make_unique<vxPath2DOLD>();
     vxPath2DOLD bar;
     long first = -1;
-    for (long c = 0; c < numOfCategories; ++c) {
+    for (long c = from; c < std::min(to, numOfCategories); ++c) {
         if (!isDrawable(s, c)) continue;
         if (first < 0) first = c;
         outlineBar(bar, s, c);
         path->addPath(bar);
         if (bar.isError()) throw std::bad_alloc();
     }
+    if (first < 0) return nullptr;
     vxApplyLook(*path, getBarLook(s, first));
     return path;
 }

@@ -240,7 +240,9 @@ void vxPath2DOLD::addPath(const vxPath2DOLD& from) {
 
 void vxPath2DOLD::replay(const std::vector<short>& vs, const std::vector<float>& xs,
                          const std::vector<float>& ys) {
-    setCapacity(getNumOfPoints() + static_cast<long>(xs.size()));
+    // Paths that grow by many pieces grow their storage by doubling.
+    const size_t wanted = x.size() + xs.size();
+    if (wanted > x.capacity()) setCapacity(static_cast<long>(std::max(wanted, 2 * x.capacity())));
     const size_t count = std::min(xs.size(), ys.size());
     size_t p = 0;
     for (short verb : vs) {

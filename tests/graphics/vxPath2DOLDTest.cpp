@@ -122,6 +122,19 @@ TEST(vxPath2DOLD, AddPathAndCopy) {
     EXPECT_TRUE(c.isEmpty());
     EXPECT_FALSE(c.hasFill());
     EXPECT_EQ(c.getWindingRule(), vxPath2DOLD::kNonZero);
+
+    // A path grown piece by piece moves its points a few dozen times, not
+    // once a piece.
+    vxPath2DOLD many;
+    int moves = 0;
+    const float* points = nullptr;
+    for (int i = 0; i < 10000; ++i) {
+        many.addPath(a);
+        if (many.getX().data() != points) ++moves;
+        points = many.getX().data();
+    }
+    EXPECT_EQ(many.getNumOfPoints(), 30001);  // each rectangle starts where the last ended
+    EXPECT_LT(moves, 40);
 }
 
 TEST(vxPath2DOLD, VerbListReadsUntilAnIncompleteOrUnknownCommand) {
