@@ -6,6 +6,12 @@
 
 namespace Velarix {
 
+namespace {
+
+constexpr size_t kReservedLength = size_t(1) << 20;
+
+}  // namespace
+
 vxDeviceSVG::vxDeviceSVG(const vxUserSettings* settings)
     : vxDevice(L"vxDeviceSVG"), userSettings(settings) {}
 
@@ -29,7 +35,12 @@ void vxDeviceSVG::open() {
     clipCounter = 0;
     linearGradientCounter = 0;
     radialGradientCounter = 0;
-    document = L"<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
+    // Room for a large chart from the start: the pages of the buffer are
+    // only touched as the document grows into them, while growing by copies
+    // would touch every page again each time.
+    document.clear();
+    document.reserve(kReservedLength);
+    document += L"<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
     document += L"<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\"\n";
     document += L"\t\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n";
     document += L"\n";
@@ -75,7 +86,9 @@ void vxDeviceSVG::setClipRegion(const vxVerbs& verbs, const vxPoints& x, const v
     ++clipCounter;
     std::wstring s = L"<defs>\n<clipPath id=\"clipPath" + std::to_wstring(clipCounter) + L"\">\n";
     s += L"\t<path id=\"path1\"\n";
-    s += L"\t\td=\"" + pathData(verbs, x, y, Offset{}) + L"\" />\n";
+    s += L"\t\td=\"";
+    appendPathData(s, verbs, x, y, Offset{});
+    s += L"\" />\n";
     s += L"</clipPath>\n</defs>\n";
     document += s;
     isClipActive = true;

@@ -176,8 +176,9 @@ private:
     void writePath(const std::wstring& style, const vxVerbs& verbs, const Points& x,
                    const Points& y, Offset at);
     void writeCircle(const std::wstring& style, float x, float y, float r);
-    // The data of a path element, without its quotes.
-    static std::wstring pathData(const vxVerbs& verbs, const Points& x, const Points& y, Offset at);
+    // Appends the data of a path element, without its quotes.
+    static void appendPathData(std::wstring& out, const vxVerbs& verbs, const Points& x,
+                               const Points& y, Offset at);
 
     // One stroked element of each kind, with its definition, after the
     // common rules.

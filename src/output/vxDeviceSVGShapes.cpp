@@ -14,8 +14,24 @@ namespace Velarix {
 
 namespace {
 
-std::wstring point(float x, float y) {
-    return vxNumberWriter::generalW(x) + L" " + vxNumberWriter::generalW(y) + L" ";
+// A number and a blank.
+void appendNumber(std::wstring& out, double value) {
+    vxNumberWriter::append(out, value);
+    out += L' ';
+}
+
+void appendPoint(std::wstring& out, float x, float y) {
+    appendNumber(out, x);
+    appendNumber(out, y);
+}
+
+// An attribute and its value in quotes, as ` name="value"`, the blank before
+// it left out for the first.
+void appendAttribute(std::wstring& out, const wchar_t* name, double value) {
+    out += name;
+    out += L"=\"";
+    vxNumberWriter::append(out, value);
+    out += L'"';
 }
 
 size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
@@ -53,46 +69,62 @@ size_t pointsOfVerb(short verb) {
 
 void vxDeviceSVG::writeLine(const std::wstring& style, float x1, float y1, float x2, float y2,
                             Offset at) {
-    std::wstring s = L"<line x1=\"" + vxNumberWriter::generalW(x1 + at.dx) + L"\" y1=\"" +
-                     vxNumberWriter::generalW(y1 + at.dy) + L"\" x2=\"" +
-                     vxNumberWriter::generalW(x2 + at.dx) + L"\" y2=\"" +
-                     vxNumberWriter::generalW(y2 + at.dy) + L"\" \n";
-    s += L"\t" + style + L"/>\n\n";
-    document += s;
+    document += L"<line";
+    appendAttribute(document, L" x1", x1 + at.dx);
+    appendAttribute(document, L" y1", y1 + at.dy);
+    appendAttribute(document, L" x2", x2 + at.dx);
+    appendAttribute(document, L" y2", y2 + at.dy);
+    document += L" \n\t";
+    document += style;
+    document += L"/>\n\n";
 }
 
 void vxDeviceSVG::writeLineArray(const std::wstring& style, const Points& x, const Points& y,
                                  Offset at) {
     const size_t count = numOfPoints(x, y);
-    std::wstring s = L"<g " + style + L">\n";
+    document += L"<g ";
+    document += style;
+    document += L">\n";
     for (size_t i = 0; i + 1 < count; i += 2) {
-        s += L"\t<line x1=\"" + vxNumberWriter::generalW(x[i] + at.dx) + L"\" y1=\"" +
-             vxNumberWriter::generalW(y[i] + at.dy) + L"\" x2=\"" +
-             vxNumberWriter::generalW(x[i + 1] + at.dx) + L"\" y2=\"" +
-             vxNumberWriter::generalW(y[i + 1] + at.dy) + L"\" />\n";
+        document += L"\t<line";
+        appendAttribute(document, L" x1", x[i] + at.dx);
+        appendAttribute(document, L" y1", y[i] + at.dy);
+        appendAttribute(document, L" x2", x[i + 1] + at.dx);
+        appendAttribute(document, L" y2", y[i + 1] + at.dy);
+        document += L" />\n";
     }
-    s += L"</g>\n";
-    document += s;
+    document += L"</g>\n";
 }
 
 void vxDeviceSVG::writePoints(const wchar_t* element, const std::wstring& style, const Points& x,
                               const Points& y, Offset at) {
     const size_t count = numOfPoints(x, y);
-    std::wstring s = std::wstring(L"<") + element + L"\n\tpoints=\"";
-    for (size_t i = 0; i < count; ++i) s += point(x[i] + at.dx, y[i] + at.dy);
-    s += L"\" \n\t" + style + L"/>\n\n";
-    document += s;
+    document += L"<";
+    document += element;
+    document += L"\n\tpoints=\"";
+    for (size_t i = 0; i < count; ++i) appendPoint(document, x[i] + at.dx, y[i] + at.dy);
+    document += L"\" \n\t";
+    document += style;
+    document += L"/>\n\n";
 }
 
 void vxDeviceSVG::writePath(const std::wstring& style, const vxVerbs& verbs, const Points& x,
                             const Points& y, Offset at) {
-    document += L"<path\n\td=\"" + pathData(verbs, x, y, at) + L"\" \n\t" + style + L"/>\n\n";
+    document += L"<path\n\td=\"";
+    appendPathData(document, verbs, x, y, at);
+    document += L"\" \n\t";
+    document += style;
+    document += L"/>\n\n";
 }
 
 void vxDeviceSVG::writeCircle(const std::wstring& style, float x, float y, float r) {
-    document += L"<circle\n\tcx=\"" + vxNumberWriter::generalW(x) + L"\" cy=\"" +
-                vxNumberWriter::generalW(y) + L"\" r=\"" + vxNumberWriter::generalW(r) +
-                L"\" \n\t" + style + L"/>\n\n";
+    document += L"<circle\n\t";
+    appendAttribute(document, L"cx", x);
+    appendAttribute(document, L" cy", y);
+    appendAttribute(document, L" r", r);
+    document += L" \n\t";
+    document += style;
+    document += L"/>\n\n";
 }
 
 // Each command and each coordinate is followed by a blank, but for the
@@ -100,13 +132,12 @@ void vxDeviceSVG::writeCircle(const std::wstring& style, float x, float y, float
 // the plain coordinates against the last point, which starts at 0, 0 and
 // after a close is the start of the closed subpath. A verb whose points
 // are missing ends the data.
-std::wstring vxDeviceSVG::pathData(const vxVerbs& verbs, const Points& x, const Points& y,
-                                   Offset at) {
+void vxDeviceSVG::appendPathData(std::wstring& d, const vxVerbs& verbs, const Points& x,
+                                 const Points& y, Offset at) {
     const size_t count = numOfPoints(x, y);
-    std::wstring d;
     size_t p = 0;
     float lastX = 0.0f, lastY = 0.0f, startX = 0.0f, startY = 0.0f;
-    auto pointAt = [&](size_t i) { return point(x[i] + at.dx, y[i] + at.dy); };
+    auto pointAt = [&](size_t i) { appendPoint(d, x[i] + at.dx, y[i] + at.dy); };
     for (short verb : verbs) {
         const size_t needed = pointsOfVerb(verb);
         if (p + needed > count) break;
@@ -117,24 +148,33 @@ std::wstring vxDeviceSVG::pathData(const vxVerbs& verbs, const Points& x, const 
                 lastY = startY;
                 break;
             case kVerbMove:
-                d += L"M " + pointAt(p);
+                d += L"M ";
+                pointAt(p);
                 startX = x[p];
                 startY = y[p];
                 break;
             case kVerbLine:
                 if (std::fabs(static_cast<double>(x[p]) - lastX) < kStraight) {
-                    d += L"V " + vxNumberWriter::generalW(y[p] + at.dy) + L" ";
+                    d += L"V ";
+                    appendNumber(d, y[p] + at.dy);
                 } else if (std::fabs(static_cast<double>(y[p]) - lastY) < kStraight) {
-                    d += L"H " + vxNumberWriter::generalW(x[p] + at.dx) + L" ";
+                    d += L"H ";
+                    appendNumber(d, x[p] + at.dx);
                 } else {
-                    d += L"L " + pointAt(p);
+                    d += L"L ";
+                    pointAt(p);
                 }
                 break;
             case kVerbQuad:
-                d += L"Q " + pointAt(p) + pointAt(p + 1);
+                d += L"Q ";
+                pointAt(p);
+                pointAt(p + 1);
                 break;
             case kVerbCubic:
-                d += L"C " + pointAt(p) + pointAt(p + 1) + pointAt(p + 2);
+                d += L"C ";
+                pointAt(p);
+                pointAt(p + 1);
+                pointAt(p + 2);
                 break;
             default:
                 break;
@@ -145,7 +185,6 @@ std::wstring vxDeviceSVG::pathData(const vxVerbs& verbs, const Points& x, const 
             lastY = y[p - 1];
         }
     }
-    return d;
 }
 
 // ---- stroked and filled elements after the common rules -------------------

@@ -30,16 +30,32 @@ std::wstring widen(const std::string& text) {
     return std::wstring(text.begin(), text.end());
 }
 
+// The general form into the buffer; the text runs from `first` to the
+// returned end.
+const char* writeGeneral(Buffer& buffer, const char*& first, double value, int precision) {
+    first = buffer.data();
+    if (!std::isfinite(value)) {
+        buffer[0] = '0';
+        return first + 1;
+    }
+    precision = std::clamp(precision, 1, 17);
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::general, precision);
+    if (result.ec != std::errc()) {
+        buffer[0] = '0';
+        return first + 1;
+    }
+    if (isSignedZero(first, result.ptr)) ++first;
+    return result.ptr;
+}
+
 }  // namespace
 
 std::string general(double value, int precision) {
-    if (!std::isfinite(value)) return "0";
-    precision = std::clamp(precision, 1, 17);
     Buffer buffer;
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::general, precision);
-    if (result.ec != std::errc()) return "0";
-    return finish(buffer.data(), result.ptr);
+    const char* first = nullptr;
+    const char* last = writeGeneral(buffer, first, value, precision);
+    return std::string(first, last);
 }
 
 std::string fixed(double value, int decimals) {
@@ -53,7 +69,9 @@ std::string fixed(double value, int decimals) {
 }
 
 std::wstring generalW(double value, int precision) {
-    return widen(general(value, precision));
+    std::wstring text;
+    append(text, value, precision);
+    return text;
 }
 
 std::wstring fixedW(double value, int decimals) {
@@ -67,13 +85,22 @@ std::string pdf(double value) {
     return text;
 }
 
-void append(std::wstring& out, double value) {
-    const std::string text = general(value);
-    out.append(text.begin(), text.end());
+void append(std::wstring& out, double value, int precision) {
+    Buffer buffer;
+    const char* first = nullptr;
+    const char* last = writeGeneral(buffer, first, value, precision);
+    // Widened in place: appending the narrow range would make a wide text
+    // of its own first.
+    std::array<wchar_t, std::tuple_size_v<Buffer>> wide;
+    std::copy(first, last, wide.begin());
+    out.append(wide.data(), size_t(last - first));
 }
 
-void append(std::string& out, double value) {
-    out += general(value);
+void append(std::string& out, double value, int precision) {
+    Buffer buffer;
+    const char* first = nullptr;
+    const char* last = writeGeneral(buffer, first, value, precision);
+    out.append(first, last);
 }
 
 }  // namespace vxNumberWriter

@@ -30,9 +30,9 @@ std::wstring fixedW(double value, int decimals);
 // general one would have an exponent ("1234567.000000").
 std::string pdf(double value);
 
-// Appends the general form with six digits.
-void append(std::wstring& out, double value);
-void append(std::string& out, double value);
+// Appends the general form, without a text of its own in between.
+void append(std::wstring& out, double value, int precision = 6);
+void append(std::string& out, double value, int precision = 6);
 
 }  // namespace vxNumberWriter
 

@@ -2,13 +2,11 @@
 // colours made by libimagequant. The palette is made from the raster read
 // row by row, and each row is then mapped to it and written at once, so the
 // picture is never held whole.
-#include <gif_lib.h>
-#include <libimagequant.h>
-
 #include <memory>
 
 #include "platform/vxEncoderSupport.h"
 #include "platform/vxPaletteMapper.h"
+#include "platform/vxPictureLibraries.h"
 
 namespace Velarix {
 
@@ -16,18 +14,14 @@ namespace {
 
 constexpr int kMaxSide = 65535;  // the format stores sides in 16 bits
 
-struct LiqAttrFree {
-    void operator()(liq_attr* p) const { liq_attr_destroy(p); }
+// Frees an object of a C library through the library's own call.
+template <typename Object>
+struct CallFree {
+    void (*free)(Object*);
+    void operator()(Object* p) const { free(p); }
 };
-struct LiqImageFree {
-    void operator()(liq_image* p) const { liq_image_destroy(p); }
-};
-struct LiqResultFree {
-    void operator()(liq_result* p) const { liq_result_destroy(p); }
-};
-struct GifMapFree {
-    void operator()(ColorMapObject* p) const { GifFreeMapObject(p); }
-};
+template <typename Object>
+using Owned = std::unique_ptr<Object, CallFree<Object>>;
 
 // libimagequant asks for rows as it needs them, possibly more than once and
 // from several threads; each answer is the row shown over white.
@@ -41,25 +35,27 @@ void rowForPalette(liq_color rowOut[], int row, int width, void* user) {
 }
 
 // The palette fitted to the raster, as 0xRRGGBB colours; empty on failure.
-std::vector<uint32_t> makePalette(const vxRasterPixels& pixels, std::string& status) {
-    std::unique_ptr<liq_attr, LiqAttrFree> attr(liq_attr_create());
+std::vector<uint32_t> makePalette(const vxImageQuantCalls& q, const vxRasterPixels& pixels,
+                                  std::string& status) {
+    Owned<liq_attr> attr(q.liq_attr_create(), {q.liq_attr_destroy});
     if (!attr) {
         status = "out of memory";
         return {};
     }
-    liq_set_max_colors(attr.get(), 256);
-    std::unique_ptr<liq_image, LiqImageFree> image(
-        liq_image_create_custom(attr.get(), rowForPalette, const_cast<vxRasterPixels*>(&pixels),
-                                pixels.width, pixels.height, 0.0));
+    q.liq_set_max_colors(attr.get(), 256);
+    Owned<liq_image> image(
+        q.liq_image_create_custom(attr.get(), rowForPalette, const_cast<vxRasterPixels*>(&pixels),
+                                  pixels.width, pixels.height, 0.0),
+        {q.liq_image_destroy});
     liq_result* quantized = nullptr;
     liq_error error =
-        image ? liq_image_quantize(image.get(), attr.get(), &quantized) : LIQ_OUT_OF_MEMORY;
-    std::unique_ptr<liq_result, LiqResultFree> result(quantized);
+        image ? q.liq_image_quantize(image.get(), attr.get(), &quantized) : LIQ_OUT_OF_MEMORY;
+    Owned<liq_result> result(quantized, {q.liq_result_destroy});
     if (error != LIQ_OK || !result) {
         status = "no palette (libimagequant error " + std::to_string(int(error)) + ")";
         return {};
     }
-    const liq_palette* palette = liq_get_palette(result.get());
+    const liq_palette* palette = q.liq_get_palette(result.get());
     std::vector<uint32_t> colours;
     for (unsigned i = 0; i < palette->count; ++i) {
         const liq_color& c = palette->entries[i];
@@ -69,10 +65,10 @@ std::vector<uint32_t> makePalette(const vxRasterPixels& pixels, std::string& sta
 }
 
 // The palette in giflib's form, padded with black to a power of two.
-std::unique_ptr<ColorMapObject, GifMapFree> makeColorMap(const std::vector<uint32_t>& colours) {
+Owned<ColorMapObject> makeColorMap(const vxGIFCalls& g, const std::vector<uint32_t>& colours) {
     int count = int(colours.size());
-    std::unique_ptr<ColorMapObject, GifMapFree> map(
-        GifMakeMapObject(1 << GifBitSize(count), nullptr));
+    Owned<ColorMapObject> map(g.GifMakeMapObject(1 << g.GifBitSize(count), nullptr),
+                              {g.GifFreeMapObject});
     if (!map) return map;
     for (int i = 0; i < map->ColorCount; ++i) {
         uint32_t c = i < count ? colours[size_t(i)] : 0;
@@ -82,8 +78,8 @@ std::unique_ptr<ColorMapObject, GifMapFree> makeColorMap(const std::vector<uint3
     return map;
 }
 
-std::string giflibMessage(int error) {
-    const char* text = GifErrorString(error);
+std::string giflibMessage(const vxGIFCalls& g, int error) {
+    const char* text = g.GifErrorString(error);
     return text ? text : "giflib error " + std::to_string(error);
 }
 
@@ -92,18 +88,54 @@ int onWrite(GifFileType* gif, const GifByteType* data, int length) {
     return vxAppendBytes(*out, data, size_t(length)) ? length : 0;
 }
 
-bool writeFrame(GifFileType* gif, const ColorMapObject& map, const vxRasterPixels& pixels,
-                vxPaletteMapper& mapper) {
-    if (EGifPutScreenDesc(gif, pixels.width, pixels.height, 8, 0, &map) == GIF_ERROR ||
-        EGifPutImageDesc(gif, 0, 0, pixels.width, pixels.height, false, nullptr) == GIF_ERROR)
+bool writeFrame(const vxGIFCalls& g, GifFileType* gif, const ColorMapObject& map,
+                const vxRasterPixels& pixels, vxPaletteMapper& mapper) {
+    if (g.EGifPutScreenDesc(gif, pixels.width, pixels.height, 8, 0, &map) == GIF_ERROR ||
+        g.EGifPutImageDesc(gif, 0, 0, pixels.width, pixels.height, false, nullptr) == GIF_ERROR)
         return false;
     std::vector<GifPixelType> row(size_t(pixels.width));
     for (int y = 0; y < pixels.height; ++y) {
         for (int x = 0; x < pixels.width; ++x)
             row[size_t(x)] = mapper.nearest(vxPixelOverWhite(pixels, x, y));
-        if (EGifPutLine(gif, row.data(), pixels.width) == GIF_ERROR) return false;
+        if (g.EGifPutLine(gif, row.data(), pixels.width) == GIF_ERROR) return false;
     }
     return true;
+}
+
+// The tables of both libraries, or a message naming the one that is missing.
+bool findLibraries(const vxGIFCalls*& g, const vxImageQuantCalls*& q, std::string& status) {
+    vxPictureLibraries& libraries = vxPictureLibraries::shared();
+    g = libraries.gif();
+    q = g ? libraries.imageQuant() : nullptr;
+    if (q != nullptr) return true;
+    vxPictureLibrary missing = g ? vxPictureLibrary::kImageQuant : vxPictureLibrary::kGIF;
+    status = libraries.missingText(missing);
+    return false;
+}
+
+bool writeFile(const vxGIFCalls& g, const std::vector<uint32_t>& colours,
+               const vxRasterPixels& pixels, std::vector<unsigned char>& out, std::string& status) {
+    auto map = makeColorMap(g, colours);
+    if (!map) {
+        status = "out of memory";
+        return false;
+    }
+    vxPaletteMapper mapper(colours);
+    int error = 0;
+    GifFileType* gif = g.EGifOpen(&out, onWrite, &error);
+    if (gif == nullptr) {
+        status = giflibMessage(g, error);
+        return false;
+    }
+    bool done = writeFrame(g, gif, *map, pixels, mapper);
+    if (!done) error = gif->Error;
+    int closeError = 0;
+    if (g.EGifCloseFile(gif, &closeError) == GIF_ERROR && done) {
+        done = false;
+        error = closeError;
+    }
+    if (!done) status = giflibMessage(g, error);
+    return done;
 }
 
 }  // namespace
@@ -114,29 +146,11 @@ bool vxEncodeGIF(const vxRasterPixels& pixels, const vxEncoderOptions& options,
         status = "raster larger than 65535 pixels";
         return false;
     }
-    std::vector<uint32_t> colours = makePalette(pixels, status);
-    if (colours.empty()) return false;
-    auto map = makeColorMap(colours);
-    if (!map) {
-        status = "out of memory";
-        return false;
-    }
-    vxPaletteMapper mapper(colours);
-    int error = 0;
-    GifFileType* gif = EGifOpen(&out, onWrite, &error);
-    if (gif == nullptr) {
-        status = giflibMessage(error);
-        return false;
-    }
-    bool done = writeFrame(gif, *map, pixels, mapper);
-    if (!done) error = gif->Error;
-    int closeError = 0;
-    if (EGifCloseFile(gif, &closeError) == GIF_ERROR && done) {
-        done = false;
-        error = closeError;
-    }
-    if (!done) status = giflibMessage(error);
-    return done;
+    const vxGIFCalls* g = nullptr;
+    const vxImageQuantCalls* q = nullptr;
+    if (!findLibraries(g, q, status)) return false;
+    std::vector<uint32_t> colours = makePalette(*q, pixels, status);
+    return !colours.empty() && writeFile(*g, colours, pixels, out, status);
 }
 
 }  // namespace Velarix

@@ -1,8 +1,6 @@
 // TIFF through libtiff, written into memory: 8-bit RGB with straight alpha
 // as an extra sample, deflate (or LZW) with horizontal prediction, strips of
 // about 8 kB, the resolution in dots per inch.
-#include <tiffio.h>
-
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
@@ -10,6 +8,7 @@
 #include <memory>
 
 #include "platform/vxEncoderSupport.h"
+#include "platform/vxPictureLibraries.h"
 
 namespace Velarix {
 
@@ -91,12 +90,15 @@ int onWarning(TIFF*, void*, const char*, const char*, va_list) {
 }
 
 struct OptionsFree {
-    void operator()(TIFFOpenOptions* p) const { TIFFOpenOptionsFree(p); }
+    decltype(&::TIFFOpenOptionsFree) free;
+    void operator()(TIFFOpenOptions* p) const { free(p); }
 };
 
-bool setTags(TIFF* tif, const vxRasterPixels& pixels, const vxEncoderOptions& options) {
+bool setTags(const vxTIFFCalls& t, TIFF* tif, const vxRasterPixels& pixels,
+             const vxEncoderOptions& options) {
+    auto TIFFSetField = t.TIFFSetField;
     uint16_t extra = EXTRASAMPLE_UNASSALPHA;
-    uint16_t compression = TIFFIsCODECConfigured(COMPRESSION_ADOBE_DEFLATE)
+    uint16_t compression = t.TIFFIsCODECConfigured(COMPRESSION_ADOBE_DEFLATE)
                                ? COMPRESSION_ADOBE_DEFLATE
                                : COMPRESSION_LZW;
     double perInch = vxResolutionPerInch(options);
@@ -110,39 +112,47 @@ bool setTags(TIFF* tif, const vxRasterPixels& pixels, const vxEncoderOptions& op
            TIFFSetField(tif, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT) &&
            TIFFSetField(tif, TIFFTAG_COMPRESSION, compression) &&
            TIFFSetField(tif, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL) &&
-           TIFFSetField(tif, TIFFTAG_ROWSPERSTRIP, TIFFDefaultStripSize(tif, 0)) &&
+           TIFFSetField(tif, TIFFTAG_ROWSPERSTRIP, t.TIFFDefaultStripSize(tif, 0)) &&
            TIFFSetField(tif, TIFFTAG_XRESOLUTION, perInch) &&
            TIFFSetField(tif, TIFFTAG_YRESOLUTION, perInch) &&
            TIFFSetField(tif, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
 }
 
-bool writeRows(TIFF* tif, const vxRasterPixels& pixels, const vxEncoderOptions& options) {
-    if (!setTags(tif, pixels, options)) return false;
+bool writeRows(const vxTIFFCalls& t, TIFF* tif, const vxRasterPixels& pixels,
+               const vxEncoderOptions& options) {
+    if (!setTags(t, tif, pixels, options)) return false;
     std::vector<unsigned char> row(size_t(pixels.width) * 4);
     for (int y = 0; y < pixels.height; ++y) {
         vxRowToRGBA(pixels, y, row.data());
-        if (TIFFWriteScanline(tif, row.data(), uint32_t(y), 0) < 0) return false;
+        if (t.TIFFWriteScanline(tif, row.data(), uint32_t(y), 0) < 0) return false;
     }
-    return TIFFFlush(tif) != 0;
+    return t.TIFFFlush(tif) != 0;
 }
 
 }  // namespace
 
 bool vxEncodeTIFF(const vxRasterPixels& pixels, const vxEncoderOptions& options,
                   std::vector<unsigned char>& out, std::string& status) {
+    vxPictureLibraries& libraries = vxPictureLibraries::shared();
+    const vxTIFFCalls* t = libraries.tiff();
+    if (t == nullptr) {
+        status = libraries.missingText(vxPictureLibrary::kTIFF);
+        return false;
+    }
     MemoryFile file;
     file.out = &out;
-    std::unique_ptr<TIFFOpenOptions, OptionsFree> openOptions(TIFFOpenOptionsAlloc());
+    std::unique_ptr<TIFFOpenOptions, OptionsFree> openOptions(t->TIFFOpenOptionsAlloc(),
+                                                              {t->TIFFOpenOptionsFree});
     if (!openOptions) {
         status = "out of memory";
         return false;
     }
-    TIFFOpenOptionsSetErrorHandlerExtR(openOptions.get(), onError, &file);
-    TIFFOpenOptionsSetWarningHandlerExtR(openOptions.get(), onWarning, &file);
-    TIFF* tif = TIFFClientOpenExt("memory", "w", &file, onRead, onWrite, onSeek, onClose, onSize,
-                                  onMap, onUnmap, openOptions.get());
-    bool done = tif != nullptr && writeRows(tif, pixels, options);
-    if (tif != nullptr) TIFFClose(tif);
+    t->TIFFOpenOptionsSetErrorHandlerExtR(openOptions.get(), onError, &file);
+    t->TIFFOpenOptionsSetWarningHandlerExtR(openOptions.get(), onWarning, &file);
+    TIFF* tif = t->TIFFClientOpenExt("memory", "w", &file, onRead, onWrite, onSeek, onClose, onSize,
+                                     onMap, onUnmap, openOptions.get());
+    bool done = tif != nullptr && writeRows(*t, tif, pixels, options);
+    if (tif != nullptr) t->TIFFClose(tif);
     done = done && file.message[0] == '\0';
     if (!done) status = file.message[0] ? file.message : "libtiff failed";
     return done;

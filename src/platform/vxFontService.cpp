@@ -88,15 +88,29 @@ bool readFileInfo(FcPattern* font, vxFontFileInfo& info) {
 
 }  // namespace
 
+// The service is never destroyed: at the end of the process, taking
+// fontconfig's configuration and FreeType apart again would only cost time.
+// Under the leak checker it is, since fontconfig links its blocks by offsets
+// that the checker can't follow.
 vxFontService& vxFontService::get() {
+#ifdef VX_LEAK_CHECKED
     static vxFontService service;
     return service;
+#else
+    static vxFontService* service = new vxFontService;
+    return *service;
+#endif
+}
+
+void vxFontService::PatternFree::operator()(FcPattern* pattern) const {
+    FcPatternDestroy(pattern);
 }
 
 vxFontService::vxFontService() = default;
 
 vxFontService::~vxFontService() {
     resolved.clear();
+    matches.clear();
     faces.clear();
     if (library != nullptr) FT_Done_FreeType(library);
     if (config != nullptr) FcConfigDestroy(config);
@@ -150,48 +164,61 @@ vxFontFace* vxFontService::findFace(const std::wstring& name, short style) {
     return face;
 }
 
-vxFontFace* vxFontService::matchFace(const std::string& family, bool bold, bool italic) {
-    fail(vxFontStatus::kOk, L"");
-    FcPattern* pattern = makePattern(config, family, bold, italic);
-    if (pattern == nullptr) {
-        fail(vxFontStatus::kNoMatch, L"fontconfig could not make a pattern");
-        return nullptr;
+FcPattern* vxFontService::bestMatch(const std::string& family, bool bold, bool italic) {
+    std::string key = family + (bold ? "|b" : "|") + (italic ? "i" : "");
+    if (const auto found = matches.find(key); found != matches.end()) return found->second.get();
+    FcPattern* match = nullptr;
+    if (FcPattern* pattern = makePattern(config, family, bold, italic); pattern != nullptr) {
+        FcResult result = FcResultNoMatch;
+        match = FcFontMatch(config, pattern, &result);
+        FcPatternDestroy(pattern);
     }
+    matches.emplace(std::move(key), PatternPointer(match));
+    return match;
+}
+
+vxFontFace* vxFontService::openMatch(FcPattern* match, bool bold) {
+    FcChar8* file = nullptr;
+    int index = 0;
+    FcBool embolden = FcFalse;
+    if (FcPatternGetString(match, FC_FILE, 0, &file) != FcResultMatch) return nullptr;
+    FcPatternGetInteger(match, FC_INDEX, 0, &index);
+    FcPatternGetBool(match, FC_EMBOLDEN, 0, &embolden);
+    return openFace(reinterpret_cast<const char*>(file), index, bold && embolden);
+}
+
+// The best match couldn't be opened: the next font in fontconfig's order of
+// preference that can.
+vxFontFace* vxFontService::openNextBest(const std::string& family, bool bold, bool italic) {
+    FcPattern* pattern = makePattern(config, family, bold, italic);
+    if (pattern == nullptr) return nullptr;
     vxFontFace* face = nullptr;
     FcResult result = FcResultNoMatch;
-    if (FcPattern* match = FcFontMatch(config, pattern, &result); match != nullptr) {
-        FcChar8* file = nullptr;
-        int index = 0;
-        FcBool embolden = FcFalse;
-        if (FcPatternGetString(match, FC_FILE, 0, &file) == FcResultMatch) {
-            FcPatternGetInteger(match, FC_INDEX, 0, &index);
-            FcPatternGetBool(match, FC_EMBOLDEN, 0, &embolden);
-            face = openFace(reinterpret_cast<const char*>(file), index, bold && embolden);
-        }
-        FcPatternDestroy(match);
-    }
-
-    // The best match couldn't be opened: take the next font in fontconfig's
-    // order of preference that can.
-    if (face == nullptr) {
-        if (FcFontSet* sorted = FcFontSort(config, pattern, FcTrue, nullptr, &result);
-            sorted != nullptr) {
-            for (int i = 0; i < sorted->nfont && face == nullptr; ++i) {
-                FcChar8* file = nullptr;
-                int index = 0;
-                int weight = FC_WEIGHT_REGULAR;
-                if (FcPatternGetString(sorted->fonts[i], FC_FILE, 0, &file) != FcResultMatch) {
-                    continue;
-                }
-                FcPatternGetInteger(sorted->fonts[i], FC_INDEX, 0, &index);
-                FcPatternGetInteger(sorted->fonts[i], FC_WEIGHT, 0, &weight);
-                face = openFace(reinterpret_cast<const char*>(file), index,
-                                bold && weight < FC_WEIGHT_DEMIBOLD);
+    if (FcFontSet* sorted = FcFontSort(config, pattern, FcTrue, nullptr, &result);
+        sorted != nullptr) {
+        for (int i = 0; i < sorted->nfont && face == nullptr; ++i) {
+            FcChar8* file = nullptr;
+            int index = 0;
+            int weight = FC_WEIGHT_REGULAR;
+            if (FcPatternGetString(sorted->fonts[i], FC_FILE, 0, &file) != FcResultMatch) {
+                continue;
             }
-            FcFontSetDestroy(sorted);
+            FcPatternGetInteger(sorted->fonts[i], FC_INDEX, 0, &index);
+            FcPatternGetInteger(sorted->fonts[i], FC_WEIGHT, 0, &weight);
+            face = openFace(reinterpret_cast<const char*>(file), index,
+                            bold && weight < FC_WEIGHT_DEMIBOLD);
         }
+        FcFontSetDestroy(sorted);
     }
     FcPatternDestroy(pattern);
+    return face;
+}
+
+vxFontFace* vxFontService::matchFace(const std::string& family, bool bold, bool italic) {
+    fail(vxFontStatus::kOk, L"");
+    FcPattern* match = bestMatch(family, bold, italic);
+    vxFontFace* face = match != nullptr ? openMatch(match, bold) : nullptr;
+    if (face == nullptr) face = openNextBest(family, bold, italic);
     if (face == nullptr && lastStatus == vxFontStatus::kOk) {
         fail(vxFontStatus::kNoMatch, L"no font found");
     } else if (face != nullptr) {
@@ -222,20 +249,12 @@ bool vxFontService::isInstalled(const std::wstring& name) {
     if (const auto found = installed.find(lower); found != installed.end()) return found->second;
 
     bool result = false;
-    if (start()) {
-        const std::string family = vxToUtf8(name);
-        if (FcPattern* pattern = makePattern(config, family, false, false); pattern != nullptr) {
-            FcResult status = FcResultNoMatch;
-            if (FcPattern* match = FcFontMatch(config, pattern, &status); match != nullptr) {
-                FcChar8* matched = nullptr;
-                for (int i = 0;
-                     !result && FcPatternGetString(match, FC_FAMILY, i, &matched) == FcResultMatch;
-                     ++i) {
-                    result = FcStrCmpIgnoreCase(matched, fcText(family)) == 0;
-                }
-                FcPatternDestroy(match);
-            }
-            FcPatternDestroy(pattern);
+    const std::string family = vxToUtf8(name);
+    if (FcPattern* match = start() ? bestMatch(family, false, false) : nullptr) {
+        FcChar8* matched = nullptr;
+        for (int i = 0;
+             !result && FcPatternGetString(match, FC_FAMILY, i, &matched) == FcResultMatch; ++i) {
+            result = FcStrCmpIgnoreCase(matched, fcText(family)) == 0;
         }
     }
     installed[lower] = result;

@@ -2,8 +2,10 @@
 // fontconfig, opens it with FreeType, and measures with the opened face.
 //
 // One service serves the whole process. It is made on first use and keeps
-// what it has found until the process ends: each name and style is matched
-// once, each font file opened once, and each glyph advance read once.
+// what it has found until the process ends: fontconfig's configuration is
+// loaded once, each name and style is matched once (the check whether a
+// family is installed and the face for its regular style share the match),
+// each font file opened once, and each glyph advance read once.
 //
 // A name that isn't installed is no error: fontconfig's substitution picks
 // the nearest font (its aliases map Arial, Helvetica, Verdana and the like
@@ -24,6 +26,7 @@
 #include "platform/vxFontFace.h"
 
 struct _FcConfig;
+struct _FcPattern;
 
 namespace Velarix {
 
@@ -79,7 +82,17 @@ private:
     vxFontService();
     ~vxFontService();
 
+    struct PatternFree {
+        void operator()(_FcPattern* pattern) const;
+    };
+    using PatternPointer = std::unique_ptr<_FcPattern, PatternFree>;
+
     bool start();
+    // fontconfig's best match for a family and style, made once for each
+    // exact name; null when there is none.
+    _FcPattern* bestMatch(const std::string& family, bool bold, bool italic);
+    vxFontFace* openMatch(_FcPattern* match, bool bold);
+    vxFontFace* openNextBest(const std::string& family, bool bold, bool italic);
     vxFontFace* matchFace(const std::string& family, bool bold, bool italic);
     vxFontFace* openFace(const std::string& file, int index, bool syntheticBold);
     void fail(int status, const std::wstring& text);
@@ -95,6 +108,8 @@ private:
     // The face found for a lower-case name with the style bits appended.
     std::map<std::wstring, vxFontFace*> resolved;
     std::map<std::wstring, bool> installed;
+    // fontconfig's matches by family text with the style bits appended.
+    std::map<std::string, PatternPointer> matches;
 };
 
 }  // namespace Velarix

@@ -8,7 +8,7 @@
 // format is the one the file's name promises. Faults, each at
 // "vxPictureReader/readFORMAT/n":
 //   4013  the bytes aren't a picture of the promised kind, or the kind has
-//         no reader here;
+//         no reader here, as when its library can't be opened;
 //   4004  the picture ends early or its data is damaged;
 //   2020  the header asks for a size above the bitmap's limits;
 //   5000  memory ran out.

@@ -1,14 +1,13 @@
 // GIF pictures through giflib: the first frame on the logical screen, with
 // its transparent colour; the screen outside the frame stays transparent.
 // Later frames are never read.
-#include <gif_lib.h>
-
 #include <algorithm>
 #include <cstring>
 #include <memory>
 #include <vector>
 
 #include "output/vxBitmap.h"
+#include "platform/vxPictureLibraries.h"
 #include "platform/vxPictureReader.h"
 
 namespace Velarix {
@@ -31,9 +30,10 @@ int readFromMemory(GifFileType* gif, GifByteType* out, int count) {
 }
 
 struct GifCloser {
+    decltype(&::DGifCloseFile) close;
     void operator()(GifFileType* gif) const {
         int error = 0;
-        DGifCloseFile(gif, &error);
+        close(gif, &error);
     }
 };
 
@@ -42,24 +42,24 @@ using GifHandle = std::unique_ptr<GifFileType, GifCloser>;
 // Walks the records up to the first image descriptor, taking the
 // transparent colour of a graphic control block on the way. False when the
 // file ends or fails first.
-bool findFirstFrame(GifFileType* gif, int& transparent) {
+bool findFirstFrame(const vxGIFCalls& g, GifFileType* gif, int& transparent) {
     transparent = NO_TRANSPARENT_COLOR;
     for (;;) {
         GifRecordType type = UNDEFINED_RECORD_TYPE;
-        if (DGifGetRecordType(gif, &type) == GIF_ERROR) return false;
-        if (type == IMAGE_DESC_RECORD_TYPE) return DGifGetImageDesc(gif) != GIF_ERROR;
+        if (g.DGifGetRecordType(gif, &type) == GIF_ERROR) return false;
+        if (type == IMAGE_DESC_RECORD_TYPE) return g.DGifGetImageDesc(gif) != GIF_ERROR;
         if (type != EXTENSION_RECORD_TYPE) return false;
         int code = 0;
         GifByteType* block = nullptr;
-        if (DGifGetExtension(gif, &code, &block) == GIF_ERROR) return false;
+        if (g.DGifGetExtension(gif, &code, &block) == GIF_ERROR) return false;
         if (code == GRAPHICS_EXT_FUNC_CODE && block && block[0] >= 4) {
             GraphicsControlBlock control;
-            if (DGifExtensionToGCB(block[0], block + 1, &control) != GIF_ERROR) {
+            if (g.DGifExtensionToGCB(block[0], block + 1, &control) != GIF_ERROR) {
                 transparent = control.TransparentColor;
             }
         }
         while (block) {
-            if (DGifGetExtensionNext(gif, &block) == GIF_ERROR) return false;
+            if (g.DGifGetExtensionNext(gif, &block) == GIF_ERROR) return false;
         }
     }
 }
@@ -80,12 +80,12 @@ std::vector<long> rowOrder(long height, bool isInterlaced) {
     return order;
 }
 
-bool readFrame(GifFileType* gif, int transparent, vxBitmap& bitmap) {
+bool readFrame(const vxGIFCalls& g, GifFileType* gif, int transparent, vxBitmap& bitmap) {
     const GifImageDesc& frame = gif->Image;
     const ColorMapObject* colors = frame.ColorMap ? frame.ColorMap : gif->SColorMap;
     std::vector<GifPixelType> line(static_cast<size_t>(std::max(frame.Width, 1)));
     for (long y : rowOrder(frame.Height, frame.Interlace)) {
-        if (DGifGetLine(gif, line.data(), frame.Width) == GIF_ERROR) return false;
+        if (g.DGifGetLine(gif, line.data(), frame.Width) == GIF_ERROR) return false;
         for (long x = 0; x < frame.Width; ++x) {
             const int index = line[static_cast<size_t>(x)];
             if (index == transparent || !colors || index >= colors->ColorCount) continue;
@@ -103,11 +103,16 @@ bool vxPictureReader::readGIF(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap
         setError(vxErrFile::kUnknownFormat, where(L"readGIF", 1));
         return false;
     }
+    const vxGIFCalls* g = vxPictureLibraries::shared().gif();
+    if (g == nullptr) {
+        setError(vxErrFile::kUnknownFormat, where(L"readGIF", 6));
+        return false;
+    }
     MemoryInput input{bytes.data(), bytes.size(), 0};
     int openError = 0;
-    GifHandle gif(DGifOpen(&input, readFromMemory, &openError));
+    GifHandle gif(g->DGifOpen(&input, readFromMemory, &openError), {g->DGifCloseFile});
     int transparent = NO_TRANSPARENT_COLOR;
-    if (!gif || !findFirstFrame(gif.get(), transparent)) {
+    if (!gif || !findFirstFrame(*g, gif.get(), transparent)) {
         setError(vxErrFile::kRead, where(L"readGIF", 2));
         return false;
     }
@@ -120,7 +125,7 @@ bool vxPictureReader::readGIF(Bytes bytes, vxPictureInfo& info, vxBitmap* bitmap
     // A frame far beyond the screen would only cost time to decode.
     if (!checkSize({frame.Width, frame.Height}, L"readGIF", 5)) return false;
     if (!allocate(*bitmap, info)) return false;
-    if (!readFrame(gif.get(), transparent, *bitmap)) {
+    if (!readFrame(*g, gif.get(), transparent, *bitmap)) {
         setError(vxErrFile::kRead, where(L"readGIF", 4));
         return false;
     }

@@ -2,13 +2,12 @@
 // library's RGBA interface, which hands out premultiplied pixels whatever
 // the file's photometric form. The library's messages go to this reader's
 // handlers, never to the console.
-#include <tiffio.h>
-
 #include <algorithm>
 #include <cstring>
 #include <memory>
 
 #include "output/vxBitmap.h"
+#include "platform/vxPictureLibraries.h"
 #include "platform/vxPictureReader.h"
 
 namespace Velarix {
@@ -62,11 +61,13 @@ int ignoreMessage(TIFF*, void*, const char*, const char*, va_list) {
 }
 
 struct TiffCloser {
-    void operator()(TIFF* tif) const { TIFFClose(tif); }
+    decltype(&::TIFFClose) close;
+    void operator()(TIFF* tif) const { close(tif); }
 };
 
 struct OptionsFree {
-    void operator()(TIFFOpenOptions* options) const { TIFFOpenOptionsFree(options); }
+    decltype(&::TIFFOpenOptionsFree) free;
+    void operator()(TIFFOpenOptions* options) const { free(options); }
 };
 
 bool hasSignature(std::span<const uint8_t> bytes) {
@@ -78,11 +79,11 @@ bool hasSignature(std::span<const uint8_t> bytes) {
     return little || big;
 }
 
-double resolutionOf(TIFF* tif) {
+double resolutionOf(const vxTIFFCalls& t, TIFF* tif) {
     float x = 0.0f;
     uint16_t unit = RESUNIT_INCH;
-    if (!TIFFGetField(tif, TIFFTAG_XRESOLUTION, &x)) return 0.0;
-    TIFFGetFieldDefaulted(tif, TIFFTAG_RESOLUTIONUNIT, &unit);
+    if (!t.TIFFGetField(tif, TIFFTAG_XRESOLUTION, &x)) return 0.0;
+    t.TIFFGetFieldDefaulted(tif, TIFFTAG_RESOLUTIONUNIT, &unit);
     if (unit == RESUNIT_CENTIMETER) return x * 2.54;
     return unit == RESUNIT_INCH ? x : 0.0;
 }
@@ -105,32 +106,39 @@ bool vxPictureReader::readTIFF(Bytes bytes, vxPictureInfo& info, vxBitmap* bitma
         setError(vxErrFile::kUnknownFormat, where(L"readTIFF", 1));
         return false;
     }
-    std::unique_ptr<TIFFOpenOptions, OptionsFree> options(TIFFOpenOptionsAlloc());
+    const vxTIFFCalls* t = vxPictureLibraries::shared().tiff();
+    if (t == nullptr) {
+        setError(vxErrFile::kUnknownFormat, where(L"readTIFF", 6));
+        return false;
+    }
+    std::unique_ptr<TIFFOpenOptions, OptionsFree> options(t->TIFFOpenOptionsAlloc(),
+                                                          {t->TIFFOpenOptionsFree});
     if (!options) {
         setError(vxErrRuntime::kOutOfMemory, where(L"readTIFF", 2));
         return false;
     }
-    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignoreMessage, nullptr);
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
+    t->TIFFOpenOptionsSetErrorHandlerExtR(options.get(), ignoreMessage, nullptr);
+    t->TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
     MemoryInput input{bytes.data(), static_cast<toff_t>(bytes.size()), 0};
     std::unique_ptr<TIFF, TiffCloser> tif(
-        TIFFClientOpenExt("picture", "rm", &input, readFromMemory, refuseWrite, seekInMemory,
-                          closeNothing, sizeOfMemory, mapNothing, unmapNothing, options.get()));
+        t->TIFFClientOpenExt("picture", "rm", &input, readFromMemory, refuseWrite, seekInMemory,
+                             closeNothing, sizeOfMemory, mapNothing, unmapNothing, options.get()),
+        {t->TIFFClose});
     uint32_t width = 0, height = 0;
-    if (!tif || !TIFFGetField(tif.get(), TIFFTAG_IMAGEWIDTH, &width) ||
-        !TIFFGetField(tif.get(), TIFFTAG_IMAGELENGTH, &height)) {
+    if (!tif || !t->TIFFGetField(tif.get(), TIFFTAG_IMAGEWIDTH, &width) ||
+        !t->TIFFGetField(tif.get(), TIFFTAG_IMAGELENGTH, &height)) {
         setError(vxErrFile::kRead, where(L"readTIFF", 3));
         return false;
     }
     info.width = static_cast<long>(std::min<uint32_t>(width, 0x7FFFFFFF));
     info.height = static_cast<long>(std::min<uint32_t>(height, 0x7FFFFFFF));
-    const short dpi = toResolution(resolutionOf(tif.get()));
+    const short dpi = toResolution(resolutionOf(*t, tif.get()));
     if (dpi > 0) info.resolution = dpi;
     if (!checkSize(info, L"readTIFF", 4)) return false;
     if (!bitmap) return true;
     if (!allocate(*bitmap, info)) return false;
-    if (!TIFFReadRGBAImageOriented(tif.get(), width, height, bitmap->getData(), ORIENTATION_TOPLEFT,
-                                   1)) {
+    if (!t->TIFFReadRGBAImageOriented(tif.get(), width, height, bitmap->getData(),
+                                      ORIENTATION_TOPLEFT, 1)) {
         setError(vxErrFile::kRead, where(L"readTIFF", 5));
         return false;
     }

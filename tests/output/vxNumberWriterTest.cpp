@@ -7,6 +7,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "output/vxNumberWriter.h"
 
@@ -77,6 +78,38 @@ TEST(vxNumberWriter, RandomValuesRoundTripToSixDigits) {
         ASSERT_LE(std::fabs(back - value), std::fabs(value) * 5e-6) << text;
         ASSERT_EQ(general(back), text);
     }
+}
+
+// The appending forms write into the text in place; they must give the
+// general form exactly, after whatever the text holds already.
+TEST(vxNumberWriter, AppendingGivesTheGeneralForm) {
+    std::mt19937_64 random(20251125);
+    std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
+    std::uniform_int_distribution<int> exponent(-320, 308);
+    std::vector<double> values = {-0.0,
+                                  -1e-300,
+                                  std::nan(""),
+                                  -std::numeric_limits<double>::infinity(),
+                                  std::numeric_limits<double>::lowest(),
+                                  0.1f,
+                                  123456.5};
+    for (int i = 0; i < 5000; ++i)
+        values.push_back(mantissa(random) * std::pow(10.0, exponent(random)));
+    std::wstring wide = L"d=";
+    std::string narrow = "d=";
+    std::string expected = "d=";
+    for (double value : values) {
+        for (int precision : {1, 6, 17}) {
+            vxNumberWriter::append(wide, value, precision);
+            vxNumberWriter::append(narrow, value, precision);
+            expected += general(value, precision);
+            ASSERT_EQ(
+                vxNumberWriter::generalW(value, precision),
+                std::wstring(expected.end() - general(value, precision).size(), expected.end()));
+        }
+    }
+    EXPECT_EQ(narrow, expected);
+    EXPECT_EQ(wide, std::wstring(expected.begin(), expected.end()));
 }
 
 TEST(vxNumberWriter, IgnoresTheProcessLocale) {

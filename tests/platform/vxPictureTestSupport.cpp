@@ -1,8 +1,6 @@
 #include "vxPictureTestSupport.h"
 
-#include <gif_lib.h>
 #include <png.h>
-#include <tiffio.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -14,6 +12,8 @@
 #include <map>
 
 #include <jpeglib.h>
+
+#include "support/vxLibraryCall.h"
 
 namespace Velarix {
 
@@ -52,6 +52,16 @@ vxRGBA vxOverWhite(const vxRGBA& c) {
 }
 
 namespace {
+
+VX_LIBRARY_CALL(kGIF, DGifOpenFileHandle);
+VX_LIBRARY_CALL(kGIF, DGifSlurp);
+VX_LIBRARY_CALL(kGIF, DGifSavedExtensionToGCB);
+VX_LIBRARY_CALL(kGIF, DGifCloseFile);
+VX_LIBRARY_CALL(kTIFF, TIFFFdOpen);
+VX_LIBRARY_CALL(kTIFF, TIFFGetField);
+VX_LIBRARY_CALL(kTIFF, TIFFGetFieldDefaulted);
+VX_LIBRARY_CALL(kTIFF, TIFFReadScanline);
+VX_LIBRARY_CALL(kTIFF, TIFFClose);
 
 using Bytes = std::vector<unsigned char>;
 

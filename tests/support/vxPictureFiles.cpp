@@ -1,8 +1,6 @@
 #include "support/vxPictureFiles.h"
 
-#include <gif_lib.h>
 #include <png.h>
-#include <tiffio.h>
 
 #include <csetjmp>
 #include <cstdio>
@@ -11,11 +9,27 @@
 
 #include <jpeglib.h>
 
+#include "support/vxLibraryCall.h"
 #include "support/vxTestRun.h"
 
 namespace Velarix::test {
 
 namespace {
+
+VX_LIBRARY_CALL(kGIF, EGifOpen);
+VX_LIBRARY_CALL(kGIF, EGifSetGifVersion);
+VX_LIBRARY_CALL(kGIF, EGifPutScreenDesc);
+VX_LIBRARY_CALL(kGIF, EGifGCBToExtension);
+VX_LIBRARY_CALL(kGIF, EGifPutExtension);
+VX_LIBRARY_CALL(kGIF, EGifPutImageDesc);
+VX_LIBRARY_CALL(kGIF, EGifPutLine);
+VX_LIBRARY_CALL(kGIF, EGifCloseFile);
+VX_LIBRARY_CALL(kGIF, GifMakeMapObject);
+VX_LIBRARY_CALL(kGIF, GifFreeMapObject);
+VX_LIBRARY_CALL(kTIFF, TIFFOpen);
+VX_LIBRARY_CALL(kTIFF, TIFFSetField);
+VX_LIBRARY_CALL(kTIFF, TIFFWriteScanline);
+VX_LIBRARY_CALL(kTIFF, TIFFClose);
 
 void appendToString(png_structp png, png_bytep data, png_size_t size) {
     static_cast<std::string*>(png_get_io_ptr(png))->append(reinterpret_cast<char*>(data), size);
