@@ -168,6 +168,10 @@ FcPattern* vxFontService::bestMatch(const std::string& family, bool bold, bool i
     std::string key = family + (bold ? "|b" : "|") + (italic ? "i" : "");
     if (const auto found = matches.find(key); found != matches.end()) return found->second.get();
     FcPattern* match = nullptr;
+    // The match is kept for the run; its values hang on it by offsets.
+#ifdef VX_LEAK_CHECKED
+    __lsan::ScopedDisabler lookAway;
+#endif
     if (FcPattern* pattern = makePattern(config, family, bold, italic); pattern != nullptr) {
         FcResult result = FcResultNoMatch;
         match = FcFontMatch(config, pattern, &result);
