@@ -26,8 +26,11 @@
 // to the shape, always opaque. A stroke with a gradient or a picture
 // keeps the current stroke colour. Shadows are hard copies.
 //
-// Text is set in the standard Helvetica fonts with their own widths, in
-// Windows-1252 codes. Pictures: a JPEG file keeps its compressed data;
+// Text is set in Windows-1252 codes, in the standard font of its family
+// or in the TrueType font the layout measured it with, embedded when the
+// font asks for it and its licence allows; a family that isn't installed
+// falls back to Helvetica. Lines are placed by the widths the document
+// gives its font. Pictures: a JPEG file keeps its compressed data;
 // every other picture is written as its pixels, deflated, with a soft mask
 // where it has transparency.
 //
@@ -52,6 +55,8 @@ class vxBitmap;
 class vxColorOLD;
 class vxGradientPaint;
 class vxImageMapping;
+class vxPDFFontABC;
+class vxPDFFonts;
 class vxTexturePaintOLD;
 class vxUserSettings;
 
@@ -246,6 +251,11 @@ private:
     std::string pixelImage(const vxBitmap& bitmap);
     void placeTiles(const vxImageMapping& mapping, const std::string& name);
 
+    // One line of a text at its place (vxDevicePDFText.cpp).
+    std::string lineText(const std::wstring& line, const std::vector<uint8_t>& codes,
+                         const vxFontOLD& font, const vxPDFFontABC& pdfFont, const float bounds[4],
+                         short hAlignment, float y);
+
     // Adds a resource; a failed allocation is error 5000 and gives an empty
     // name.
     std::string addResource(vxPDFResources::Table table, const std::string& dictionary,
@@ -263,6 +273,7 @@ private:
     std::vector<uint8_t> file;
     std::vector<long> offsets;  // of each object by number; 0 unused
     vxPDFResources resources;
+    std::unique_ptr<vxPDFFonts> fonts;  // the document's fonts, by family and style
     std::string content;
     std::string pageState;  // what starts every block: the clip
     bool doCompress = false;

@@ -1,11 +1,14 @@
-// Text on the PDF device: lines of Windows-1252 codes in the standard
-// Helvetica fonts, placed by those fonts' own widths.
+// Text on the PDF device: lines of Windows-1252 codes in the document's
+// font for the text's family and style, placed by that font's widths.
 #include <cmath>
+#include <new>
 
 #include "graphics/vxBasicPaint.h"
 #include "graphics/vxFontOLD.h"
 #include "output/vxDevicePDF.h"
 #include "output/vxNumberWriter.h"
+#include "output/vxPDFFontABC.h"
+#include "output/vxPDFFonts.h"
 #include "output/vxPDFText.h"
 
 namespace Velarix {
@@ -55,34 +58,42 @@ void vxDevicePDF::drawString2D(const std::wstring& text, const vxFontOLD& font,
                                const vxPaintOLD& paint, const float bounds[4], short hAlignment,
                                short vAlignment, float orientation) {
     if (text.empty() || drawsNothing(paint) || !paint.getColor()) return;
-    const bool isBold = font.isBold();
-    const char* baseFont = vxPDFText::baseFontName(isBold, font.isItalic());
-    const std::string name = addResource(vxPDFResources::kFont,
-                                         std::string("<< /Type /Font /Subtype /Type1 /BaseFont /") +
-                                             baseFont + " /Encoding /WinAnsiEncoding >>");
-    if (name.empty()) return;
+    vxPDFFonts::Use use;
+    try {
+        use = fonts->use(font, resources);
+    } catch (const std::bad_alloc&) {
+        setError(vxErrRuntime::kOutOfMemory, where(L"drawString2D"));
+        return;
+    }
     const float size = font.getSize();
     const float lineHeight = font.getLineHeight();
     const float baseline = bounds[1] + lineHeight - font.getDescent();
-    std::string s = "q " + pageState + name + " " + number(size) + "Tf " +
+    std::string s = "q " + pageState + use.name + " " + number(size) + "Tf " +
                     colorState(*paint.getColor(), false) +
                     baselineMatrix(bounds, baseline, orientation);
     float y = 0.0f;
     for (const std::wstring& line : splitLines(text)) {
         const std::vector<uint8_t> codes = vxPDFText::codesOf(line);
-        if (!codes.empty()) {
-            const float width = vxPDFText::widthOf(codes, isBold, size);
-            const float x = lineX(bounds, hAlignment, width);
-            s += "BT " + number(x) + number(y) + "Td <" + vxPDFText::hexOf(codes) + "> Tj ET ";
-            if (font.isUnderline()) {
-                s += number(x) + number(y + vxPDFText::kUnderlinePosition * size * 0.001f) +
-                     number(width) + number(-vxPDFText::kUnderlineThickness * size * 0.001f) +
-                     "re f ";
-            }
-        }
+        if (!codes.empty()) s += lineText(line, codes, font, *use.font, bounds, hAlignment, y);
         y -= lineHeight;
     }
     block(s + "Q\r\n");
+}
+
+// One line at its place, with its underline. A font that doesn't know its
+// widths is placed by the layout's measure.
+std::string vxDevicePDF::lineText(const std::wstring& line, const std::vector<uint8_t>& codes,
+                                  const vxFontOLD& font, const vxPDFFontABC& pdfFont,
+                                  const float bounds[4], short hAlignment, float y) {
+    const float size = font.getSize();
+    const float width = pdfFont.hasWidths() ? pdfFont.getWidth(codes, size) : font.getWidth(line);
+    const float x = lineX(bounds, hAlignment, width);
+    std::string s = "BT " + number(x) + number(y) + "Td <" + vxPDFText::hexOf(codes) + "> Tj ET ";
+    if (font.isUnderline()) {
+        s += number(x) + number(y + pdfFont.getUnderlinePosition() * size * 0.001f) +
+             number(width) + number(-pdfFont.getUnderlineThickness() * size * 0.001f) + "re f ";
+    }
+    return s;
 }
 
 }  // namespace Velarix

@@ -24,13 +24,14 @@ void vxPDFResources::clear() {
 }
 
 const char* vxPDFResources::dictionaryKey(Table table) {
-    static const char* const kKeys[kNumOfTables] = {"/ColorSpace", "/ExtGState", "/Font",
+    static const char* const kKeys[kNumOfTables] = {"/ColorSpace", "/ExtGState", "/Font",   nullptr,
                                                     "/XObject",    "/Pattern",   "/Shading"};
     return kKeys[table];
 }
 
 const char* vxPDFResources::namePrefix(Table table) {
-    static const char* const kPrefixes[kNumOfTables] = {"/Cs", "/Gs", "/F", "/Im", "/Pa", "/Sh"};
+    static const char* const kPrefixes[kNumOfTables] = {"/Cs", "/Gs", "/F", "/Fd",
+                                                        "/Im", "/Pa", "/Sh"};
     return kPrefixes[table];
 }
 
