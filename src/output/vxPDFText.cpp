@@ -51,20 +51,6 @@ std::string hexOf(std::wstring_view text) {
     return hexOf(codesOf(text));
 }
 
-const char* baseFontName(bool isBold, bool isItalic) {
-    if (isBold) return isItalic ? "Helvetica-BoldOblique" : "Helvetica-Bold";
-    return isItalic ? "Helvetica-Oblique" : "Helvetica";
-}
-
-float widthOf(const std::vector<uint8_t>& codes, bool isBold, float size) {
-    const short* widths = isBold ? kHelveticaBoldWidths : kHelveticaWidths;
-    long sum = 0;
-    for (uint8_t code : codes) {
-        if (code >= 32) sum += widths[code - 32];
-    }
-    return static_cast<float>(sum) * size * 0.001f;
-}
-
 }  // namespace vxPDFText
 
 }  // namespace Velarix
