@@ -76,6 +76,7 @@ void vxDevicePDF::close() {
     if (!isOpenDocument) return;
     isOpenDocument = false;
     try {
+        fonts->finish(resources);
         writeFile();
     } catch (const std::bad_alloc&) {
         file.clear();

@@ -29,8 +29,10 @@
 // Text is set in Windows-1252 codes, in the standard font of its family
 // or in the TrueType font the layout measured it with, embedded when the
 // font asks for it and its licence allows; a family that isn't installed
-// falls back to Helvetica. Lines are placed by the widths the document
-// gives its font. Pictures: a JPEG file keeps its compressed data;
+// falls back to Helvetica. A line with characters beyond that code page
+// is set in a composite font of the layout's font file, embedded, with a
+// map back to Unicode. Lines are placed by the widths the document gives
+// its fonts. Pictures: a JPEG file keeps its compressed data;
 // every other picture is written as its pixels, deflated, with a soft mask
 // where it has transparency.
 //
@@ -251,10 +253,14 @@ private:
     std::string pixelImage(const vxBitmap& bitmap);
     void placeTiles(const vxImageMapping& mapping, const std::string& name);
 
-    // One line of a text at its place (vxDevicePDFText.cpp).
-    std::string lineText(const std::wstring& line, const std::vector<uint8_t>& codes,
-                         const vxFontOLD& font, const vxPDFFontABC& pdfFont, const float bounds[4],
-                         short hAlignment, float y);
+    // Lines of a text at their places (vxDevicePDFText.cpp).
+    std::string lineText(const std::wstring& line, const vxFontOLD& font,
+                         const vxPDFFontABC& pdfFont, const float bounds[4], short hAlignment,
+                         float y);
+    std::string otherLineText(const std::wstring& line, const vxFontOLD& font,
+                              const float bounds[4], short hAlignment, float y);
+    static std::string underline(const vxFontOLD& font, float position, float thickness, float x,
+                                 float y, float width);
 
     // Adds a resource; a failed allocation is error 5000 and gives an empty
     // name.

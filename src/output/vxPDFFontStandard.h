@@ -4,6 +4,7 @@
 
 #include "output/vxPDFFontABC.h"
 #include "output/vxPDFFontTables.h"
+#include "output/vxPDFText.h"
 
 namespace Velarix {
 
@@ -13,8 +14,8 @@ public:
 
     bool hasWidths() const override { return mFont.widths != nullptr; }
     double getCodeWidth(uint8_t code) const override;
-    float getUnderlinePosition() const override { return -100.0f; }
-    float getUnderlineThickness() const override { return 50.0f; }
+    float getUnderlinePosition() const override { return vxPDFText::kUnderlinePosition; }
+    float getUnderlineThickness() const override { return vxPDFText::kUnderlineThickness; }
     std::string addTo(vxPDFResources& resources) const override;
     void dump(short depth, std::ostream& out) const override;
 

@@ -4,6 +4,7 @@
 
 #include "host/vxLog.h"
 #include "output/vxNumberWriter.h"
+#include "output/vxPDFText.h"
 #include "platform/vxTrueTypeFile.h"
 
 namespace Velarix {
@@ -58,12 +59,12 @@ double vxPDFFontTrueType::getCodeWidth(uint8_t code) const {
 
 float vxPDFFontTrueType::getUnderlinePosition() const {
     const int position = mFile->getMetrics().underlinePosition;
-    return position != 0 ? static_cast<float>(scaled(position)) : -100.0f;
+    return position != 0 ? static_cast<float>(scaled(position)) : vxPDFText::kUnderlinePosition;
 }
 
 float vxPDFFontTrueType::getUnderlineThickness() const {
     const int thickness = mFile->getMetrics().underlineThickness;
-    return thickness > 0 ? static_cast<float>(scaled(thickness)) : 50.0f;
+    return thickness > 0 ? static_cast<float>(scaled(thickness)) : vxPDFText::kUnderlineThickness;
 }
 
 bool vxPDFFontTrueType::isEmbedded() const {

@@ -4,6 +4,7 @@
 
 #include "graphics/vxFontOLD.h"
 #include "host/vxLog.h"
+#include "output/vxPDFFontComposite.h"
 #include "output/vxPDFFontKey.h"
 #include "output/vxPDFFontStandard.h"
 #include "output/vxPDFFontTrueType.h"
@@ -26,10 +27,16 @@ std::map<std::string, Program>& programs() {
     return cache;
 }
 
+long& filesRead() {
+    static long count = 0;
+    return count;
+}
+
 Program& programOf(const vxFontFileMatch& match) {
     const std::string key = match.file + "#" + std::to_string(match.index);
     if (auto found = programs().find(key); found != programs().end()) return found->second;
     Program& program = programs()[key];
+    ++filesRead();
     std::string failure;
     program.file = vxTrueTypeFile::read(match.file, match.index, failure);
     if (!program.file) vxLog::write(failure);
@@ -53,7 +60,12 @@ std::shared_ptr<const std::vector<uint8_t>> deflated(const std::vector<uint8_t>&
 vxPDFFonts::vxPDFFonts() = default;
 vxPDFFonts::~vxPDFFonts() = default;
 
+long vxPDFFonts::getNumOfFilesRead() {
+    return filesRead();
+}
+
 void vxPDFFonts::clear() {
+    composites.clear();
     names.clear();
     fonts.clear();
 }
@@ -87,6 +99,31 @@ std::unique_ptr<vxPDFFontABC> vxPDFFonts::makeFont(const std::wstring& family, b
     }
     const vxPDFFontKey helvetica(L"Helvetica", isBold, isItalic);
     return std::make_unique<vxPDFFontStandard>(*vxFindStandardFont(helvetica.getFontKey()));
+}
+
+vxPDFFontComposite* vxPDFFonts::compositeFor(const vxFontOLD& font) {
+    vxFontFileMatch match;
+    if (!vxFindLayoutFontFile(font.getName(), font.getStyle() & 3, match)) return nullptr;
+    std::unique_ptr<vxPDFFontComposite>& composite =
+        composites[match.file + "#" + std::to_string(match.index) + "+" +
+                   std::to_string(match.boldExtra)];
+    if (composite) return composite.get();
+    Program& program = programOf(match);
+    if (!program.file || !program.file->isEmbeddingAllowed() ||
+        !program.file->hasAllRequiredTablesForFontEmbedding() || program.file->isCollection()) {
+        return nullptr;
+    }
+    if (!program.deflated) program.deflated = deflated(program.file->getBytes());
+    if (!program.deflated) return nullptr;
+    composite =
+        std::make_unique<vxPDFFontComposite>(program.file, program.deflated, match.boldExtra);
+    return composite.get();
+}
+
+void vxPDFFonts::finish(vxPDFResources& resources) const {
+    for (const auto& [key, composite] : composites) {
+        if (composite) composite->finish(resources);
+    }
 }
 
 std::unique_ptr<vxPDFFontABC> vxPDFFonts::makeTrueType(const std::wstring& family, bool isBold,

@@ -8,6 +8,9 @@
 // 3. Otherwise, or when that file can't be read or has no name, Helvetica
 //    of the style. The reason goes to the log; it never stops a drawing.
 //
+// Text beyond Windows-1252 goes into a composite font of the file the
+// layout measured it with, embedded whole.
+//
 // A font file is read once per process and its program deflated once, on
 // the first document that embeds it; every document after that shares
 // both. Each font is added to the document's resources on its first use.
@@ -22,6 +25,7 @@
 namespace Velarix {
 
 class vxFontOLD;
+class vxPDFFontComposite;
 
 class vxPDFFonts {
 public:
@@ -39,7 +43,17 @@ public:
     // The font for a family and style, without adding it to a document.
     const vxPDFFontABC& fontFor(const std::wstring& family, bool isBold, bool isItalic,
                                 bool isEmbeddingIntended);
+    // The composite font for text of the font beyond Windows-1252: the
+    // file the layout measures it with, whatever family that is, embedded.
+    // Null when that file can't be read or its licence forbids embedding.
+    // Throws std::bad_alloc.
+    vxPDFFontComposite* compositeFor(const vxFontOLD& font);
+    // Completes the composite fonts at the end of the document.
+    void finish(vxPDFResources& resources) const;
     void clear();
+
+    // How many font files the process has read so far.
+    static long getNumOfFilesRead();
 
 private:
     std::unique_ptr<vxPDFFontABC> makeFont(const std::wstring& family, bool isBold, bool isItalic,
@@ -49,6 +63,8 @@ private:
 
     std::map<std::string, std::unique_ptr<vxPDFFontABC>> fonts;
     std::map<const vxPDFFontABC*, std::string> names;
+    // By file, face and simulated bold; null where none can be had.
+    std::map<std::string, std::unique_ptr<vxPDFFontComposite>> composites;
 };
 
 }  // namespace Velarix

@@ -13,6 +13,12 @@ std::string vxPDFResources::add(Table table, const std::string& dictionary,
     return name;
 }
 
+void vxPDFResources::replace(Table table, const std::string& name, const std::string& dictionary) {
+    for (Entry& entry : tables[table]) {
+        if (entry.name == name) entry.dictionary = dictionary;
+    }
+}
+
 long vxPDFResources::getNumOfEntries() const {
     size_t count = 0;
     for (const auto& entries : tables) count += entries.size();

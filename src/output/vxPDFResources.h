@@ -41,6 +41,9 @@ public:
     // std::bad_alloc.
     std::string add(Table table, const std::string& dictionary,
                     const std::vector<uint8_t>& stream = {});
+    // Gives a named resource a new dictionary, for one that is complete
+    // only at the end of the document. Throws std::bad_alloc.
+    void replace(Table table, const std::string& name, const std::string& dictionary);
     const std::vector<Entry>& getEntries(Table table) const { return tables[table]; }
     long getNumOfEntries() const;
     void clear();

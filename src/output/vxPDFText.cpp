@@ -36,6 +36,14 @@ std::vector<uint8_t> codesOf(std::wstring_view text) {
     return codes;
 }
 
+bool isWinAnsi(std::wstring_view text) {
+    for (wchar_t w : text) {
+        const auto c = static_cast<char16_t>(w);
+        if (c >= 0x100 && highCodeOf(c) < 0) return false;
+    }
+    return true;
+}
+
 std::string hexOf(const std::vector<uint8_t>& codes) {
     static const char kDigits[] = "0123456789ABCDEF";
     std::string hex;

@@ -16,7 +16,14 @@ namespace Velarix {
 
 namespace vxPDFText {
 
+// Where an underline lies below the baseline and how thick it is, in
+// 1/1000 of the font size, where the font doesn't say.
+constexpr float kUnderlinePosition = -100.0f;
+constexpr float kUnderlineThickness = 50.0f;
+
 std::vector<uint8_t> codesOf(std::wstring_view text);
+// Whether every character of the text has a code of its own.
+bool isWinAnsi(std::wstring_view text);
 // Two upper-case hexadecimal digits for each code, without brackets.
 std::string hexOf(const std::vector<uint8_t>& codes);
 std::string hexOf(std::wstring_view text);

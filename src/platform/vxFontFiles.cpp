@@ -6,10 +6,12 @@
 namespace Velarix {
 
 bool vxFindFontFile(const std::wstring& family, short style, vxFontFileMatch& match) {
-    vxFontService& service = vxFontService::get();
     const std::wstring name = vxFontService::platformName(family);
-    if (!service.hasFont(name)) return false;
-    vxFontFace* face = service.findFace(name, style);
+    return vxFontService::get().hasFont(name) && vxFindLayoutFontFile(name, style, match);
+}
+
+bool vxFindLayoutFontFile(const std::wstring& family, short style, vxFontFileMatch& match) {
+    vxFontFace* face = vxFontService::get().findFace(family, style);
     if (face == nullptr) return false;
     match.file = face->getFile();
     match.index = face->getFaceIndex();

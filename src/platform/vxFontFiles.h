@@ -23,5 +23,8 @@ struct vxFontFileMatch {
 // same metrics is installed, or no font can be opened at all. `style`
 // holds the bits of vxFontService (bold 1, italic 2).
 bool vxFindFontFile(const std::wstring& family, short style, vxFontFileMatch& match);
+// The file the layout measures the family with, whether it is the family
+// or a substitute; false only when no font can be opened at all.
+bool vxFindLayoutFontFile(const std::wstring& family, short style, vxFontFileMatch& match);
 
 }  // namespace Velarix

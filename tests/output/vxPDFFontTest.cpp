@@ -39,7 +39,7 @@ std::string objectWith(const ParsedPDF& pdf, const std::string& text) {
 // The object that "/Key N 0 R" in `object` refers to.
 std::string referred(const ParsedPDF& pdf, const std::string& object, const std::string& key) {
     std::smatch m;
-    if (!std::regex_search(object, m, std::regex(key + " (\\d+) 0 R"))) return "";
+    if (!std::regex_search(object, m, std::regex(key + " ?(\\d+) 0 R"))) return "";
     return pdf.objects.at(std::stol(m[1]));
 }
 
@@ -281,6 +281,98 @@ TEST_F(DevicePDFFontsRead, PdftotextGivesTheTextBack) {
                              "Na\xc3\xafve \xe2\x80\x9cquote\xe2\x80\x9d", "Fallback"}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << " in " << text;
     }
+}
+
+}  // namespace
+}  // namespace Velarix::test
+
+namespace Velarix::test {
+namespace {
+
+using namespace pdf;
+
+const std::wstring kGreek = L"\u0391\u03b8\u03ae\u03bd\u03b1 \u039c\u03bf\u03c3\u03ba\u03b2\u03b1";
+const char kGreekUtf8[] =
+    "\xce\x91\xce\xb8\xce\xae\xce\xbd\xce\xb1 \xce\x9c\xce\xbf\xcf\x83\xce\xba\xce\xb2\xce\xb1";
+
+// Lines beyond Windows-1252 go into the composite font of the file the
+// layout measured with, also for a family that falls back to Helvetica.
+TEST(DevicePDFFonts, TextBeyondTheCodePageIsPlacedByTheLayoutsGlyphWidths) {
+    for (const wchar_t* family : {L"DejaVu Sans", L"No Such Font 77", L"Arial"}) {
+        const vxFontOLD font(family, 12, vxFontOLD::kBold);
+        const std::wstring text = L"\u0416\u0438\u0437\u043d\u044c " + kGreek;
+        auto device = drawPDF(300, 50, [&](vxDevicePDF& d) {
+            const float bounds[4] = {10, 10, 290, 40};
+            d.drawString2D(L"Latin\r" + text, font, *rgba(0, 0, 0), bounds, 3, 1, 0.0f);
+        });
+        std::smatch m;
+        const std::string content = blocksOf(*device);
+        ASSERT_TRUE(std::regex_search(content, m, std::regex("BT /F2 12 Tf (\\S+) \\S+ Td <")))
+            << content;
+        EXPECT_NEAR(std::stof(m[1]), 290 - font.getWidth(text), 0.001f) << content;
+        // The text's own font is selected again for what follows.
+        EXPECT_NE(content.find("Tj ET /F1 12 Tf Q"), std::string::npos) << content;
+    }
+}
+
+TEST(DevicePDFFonts, ACompositeFontMapsItsGlyphsBackToUnicode) {
+    const vxFontOLD font(L"DejaVu Sans", 12, vxFontOLD::kPlain);
+    auto device = drawPDF(300, 50, [&](vxDevicePDF& d) {
+        const float bounds[4] = {10, 10, 290, 40};
+        d.drawString2D(L"\u03b1\u03b2\u03b1 \U0001F600", font, *rgba(0, 0, 0), bounds, 1, 1, 0);
+    });
+    const ParsedPDF pdf = parsePDF(textOf(device->getFile()));
+    ASSERT_EQ(pdf.fault, "");
+    const std::string type0 = objectWith(pdf, "/Subtype /Type0");
+    EXPECT_NE(type0.find("/BaseFont /DejaVuSans /Encoding /Identity-H"), std::string::npos)
+        << type0;
+    const std::string cidFont = referred(pdf, type0, "/DescendantFonts \\[");
+    EXPECT_NE(cidFont.find("/Subtype /CIDFontType2"), std::string::npos) << cidFont;
+    EXPECT_NE(cidFont.find("/CIDToGIDMap /Identity"), std::string::npos);
+    EXPECT_NE(referred(pdf, referred(pdf, cidFont, "/FontDescriptor"), "/FontFile2"), "");
+    // Alpha, beta and the space: three glyphs, each once; a glyph the font
+    // lacks has no character to give back.
+    const std::string map = streamOf(referred(pdf, type0, "/ToUnicode"));
+    EXPECT_NE(map.find("3 beginbfchar\n"), std::string::npos) << map;
+    EXPECT_NE(map.find("> <03B1>\n"), std::string::npos) << map;
+    EXPECT_NE(map.find("> <0020>\n"), std::string::npos) << map;
+}
+
+TEST(DevicePDFFonts, AFontFileIsReadOncePerProcess) {
+    const vxFontOLD font(L"DejaVu Serif", 12, vxFontOLD::kItalic);
+    auto draw = [&](vxDevicePDF& d) {
+        const float bounds[4] = {10, 10, 290, 40};
+        for (int i = 0; i < 20; ++i) {
+            d.drawString2D(L"Line " + std::to_wstring(i), font, *rgba(0, 0, 0), bounds, 1, 1, 0);
+            d.drawString2D(kGreek, font, *rgba(0, 0, 0), bounds, 1, 1, 0);
+        }
+    };
+    drawPDF(300, 50, draw);
+    const long read = vxPDFFonts::getNumOfFilesRead();
+    const ParsedPDF pdf = parsePDF(textOf(drawPDF(300, 50, draw)->getFile()));
+    EXPECT_EQ(vxPDFFonts::getNumOfFilesRead(), read);
+    EXPECT_NE(objectWith(pdf, "/BaseFont /DejaVuSerif-Italic"), "");
+}
+
+TEST_F(DevicePDFFontsRead, TextBeyondTheCodePageShowsAndCanBeCopied) {
+    if (!hasProgram("pdffonts") || !hasProgram("pdftotext") || !hasProgram("qpdf")) {
+        GTEST_SKIP() << "poppler's tools or qpdf are not installed";
+    }
+    const vxFontOLD font(L"Liberation Sans", 12, vxFontOLD::kPlain);
+    auto device = drawPDF(300, 50, [&](vxDevicePDF& d) {
+        const float bounds[4] = {10, 10, 290, 40};
+        d.drawString2D(L"Caf\u00e9 " + kGreek, font, *rgba(0, 0, 0), bounds, 2, 1, 0.0f);
+    });
+    writeFile(folder + "/a.pdf", textOf(device->getFile()));
+    EXPECT_EQ(shell("qpdf --check a.pdf"), 0) << output();
+    ASSERT_EQ(shell("pdffonts a.pdf"), 0);
+    EXPECT_TRUE(std::regex_search(
+        output(), std::regex("LiberationSans +CID TrueType +Identity-H +yes +no +yes")))
+        << output();
+    ASSERT_EQ(shell("pdftotext -enc UTF-8 a.pdf a.txt"), 0) << output();
+    EXPECT_NE(readFile(folder + "/a.txt").find(std::string("Caf\xc3\xa9 ") + kGreekUtf8),
+              std::string::npos)
+        << readFile(folder + "/a.txt");
 }
 
 }  // namespace
