@@ -98,8 +98,9 @@ void vxPDFFontComposite::finish(vxPDFResources& resources) const {
         "<< /Type /Font /Subtype /CIDFontType2 /BaseFont /" + mBaseFontName +
             " /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) /Supplement 0 >>"
             " /FontDescriptor " +
-            vxPDFResources::referenceTo(descriptorName) + " /DW " + whole(widthOf(0)) + " /W " +
-            glyphWidths() + " /CIDToGIDMap /Identity >>");
+            vxPDFResources::referenceTo(descriptorName) + " /DW " +
+            vxNumberWriter::pdf(widthOf(0)) + " /W " + glyphWidths() +
+            " /CIDToGIDMap /Identity >>");
     resources.replace(vxPDFResources::kFont, mName,
                       "<< /Type /Font /Subtype /Type0 /BaseFont /" + mBaseFontName +
                           " /Encoding /Identity-H /DescendantFonts [" +
