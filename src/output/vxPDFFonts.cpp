@@ -9,6 +9,7 @@
 #include "output/vxPDFFontStandard.h"
 #include "output/vxPDFFontTrueType.h"
 #include "platform/vxFontFiles.h"
+#include "platform/vxFontService.h"
 #include "platform/vxTrueTypeFile.h"
 
 namespace Velarix {
@@ -79,8 +80,10 @@ vxPDFFonts::Use vxPDFFonts::use(const vxFontOLD& font, vxPDFResources& resources
     return Use{&chosen, name};
 }
 
-const vxPDFFontABC& vxPDFFonts::fontFor(const std::wstring& family, bool isBold, bool isItalic,
+// The reserved names stand for Arial here as in the layout.
+const vxPDFFontABC& vxPDFFonts::fontFor(const std::wstring& name, bool isBold, bool isItalic,
                                         bool isEmbeddingIntended) {
+    const std::wstring family = vxFontService::platformName(name);
     const vxPDFFontKey key(family, isBold, isItalic);
     std::unique_ptr<vxPDFFontABC>& font =
         fonts[key.getFontKey() + (isEmbeddingIntended ? "|embedded" : "")];

@@ -82,6 +82,7 @@ TEST(PDFFonts, StandardFontsByKeyAndHelveticaForWhatIsMissing) {
         const char* name;
     } cases[] = {
         {L"Arial", true, true, "Helvetica-BoldOblique"},
+        {L"SystemFont", true, false, "Helvetica-Bold"},
         {L"helvetica", false, false, "Helvetica"},
         {L"Courier New", true, false, "Courier-Bold"},
         {L"Times New Roman", false, true, "Times-Italic"},
