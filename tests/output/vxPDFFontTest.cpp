@@ -216,7 +216,9 @@ TEST(DevicePDFFonts, DocumentsOfOneDrawingAreAlike) {
     const ParsedPDF b = parsePDF(textOf(drawText(L"Liberation Serif", 1, 1)->getFile()));
     ASSERT_EQ(a.objects.size(), b.objects.size());
     for (const auto& [number, object] : a.objects) {
-        if (number != a.info) EXPECT_EQ(object, b.objects.at(number)) << "object " << number;
+        if (number != a.info) {
+            EXPECT_EQ(object, b.objects.at(number)) << "object " << number;
+        }
     }
 }
 
