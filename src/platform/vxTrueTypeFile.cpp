@@ -1,5 +1,6 @@
 #include "platform/vxTrueTypeFile.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -54,14 +55,10 @@ std::unique_ptr<vxTrueTypeFile> vxTrueTypeFile::parse(std::vector<uint8_t> data,
                                                       std::string& failure) {
     std::unique_ptr<vxTrueTypeFile> font(new vxTrueTypeFile());
     font->bytes = std::move(data);
-    for (const char* tag : kUsableTables) {
-        if (!font->readDirectory(index) || !font->hasTable(tag)) {
-            failure = "Invalid font file";
-            return nullptr;
-        }
-    }
-    if (!font->readHead() || !font->readHorizontal() || !font->readOS2() || !font->readName() ||
-        !font->readCmap()) {
+    bool isValid = font->readDirectory(index);
+    for (const char* tag : kUsableTables) isValid = isValid && font->hasTable(tag);
+    if (!isValid || !font->readHead() || !font->readHorizontal() || !font->readOS2() ||
+        !font->readName() || !font->readCmap()) {
         failure = "Invalid font file";
         return nullptr;
     }
@@ -70,7 +67,6 @@ std::unique_ptr<vxTrueTypeFile> vxTrueTypeFile::parse(std::vector<uint8_t> data,
 }
 
 bool vxTrueTypeFile::readDirectory(int index) {
-    if (!tables.empty()) return true;
     size_t start = 0;
     if (tagAt(bytes, 0) == "ttcf") {
         if (index < 0 || static_cast<uint32_t>(index) >= u32At(bytes, 8)) return false;
@@ -247,8 +243,11 @@ uint16_t vxTrueTypeFile::lookUpFormat4(char32_t c) const {
 }
 
 uint16_t vxTrueTypeFile::lookUpFormat12(char32_t c) const {
-    const uint32_t count = u32At(bytes, cmapOffset + 12);
-    for (uint32_t i = 0; i < count; ++i) {
+    // The count is bounded by the bytes there are, whatever the file says.
+    const size_t count =
+        std::min<size_t>(u32At(bytes, cmapOffset + 12),
+                         (bytes.size() - std::min<size_t>(bytes.size(), cmapOffset)) / 12);
+    for (size_t i = 0; i < count; ++i) {
         const size_t g = cmapOffset + 16 + 12ul * i;
         const uint32_t first = u32At(bytes, g), last = u32At(bytes, g + 4);
         if (c >= first && c <= last) return static_cast<uint16_t>(u32At(bytes, g + 8) + c - first);
