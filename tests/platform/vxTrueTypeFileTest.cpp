@@ -2,8 +2,10 @@
 // FreeType by the font service: the same names, the same advances.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -125,6 +127,28 @@ TEST(vxTrueTypeFile, DamagedOrMissingFilesAreRefused) {
     EXPECT_FALSE(vxTrueTypeFile::parse(noName, 0, failure));
     // Bytes of some other kind.
     EXPECT_FALSE(vxTrueTypeFile::parse(std::vector<uint8_t>(4096, 0x41), 0, failure));
+}
+
+// Whatever a damaged file says, the reader stays inside its bytes (the
+// sanitizer build watches) and answers glyphs within the font.
+TEST(vxTrueTypeFile, ScrambledTablesAreReadWithinTheBytes) {
+    const std::vector<uint8_t> bytes = bytesOf(fileOf(L"DejaVu Sans Mono"));
+    ASSERT_GT(bytes.size(), 4096u);
+    std::mt19937 random(7);
+    for (const char* tag : {"cmap", "hhea", "name", "head"}) {
+        const size_t start = tableOffset(bytes, tag);
+        for (int round = 0; round < 40; ++round) {
+            std::vector<uint8_t> damaged = bytes;
+            for (int i = 0; i < 8; ++i) damaged[start + random() % 64] = random() & 0xFF;
+            std::string failure;
+            auto font = vxTrueTypeFile::parse(std::move(damaged), 0, failure);
+            if (!font) continue;
+            for (char32_t c : {U'A', U'\u00e9', U'\u4e2d', U'\U0001F600'}) {
+                EXPECT_LT(font->getGlyph(c), std::max<long>(font->getNumOfGlyphs(), 1));
+                font->getAdvance(font->getGlyph(c));
+            }
+        }
+    }
 }
 
 TEST(vxFontFiles, FamiliesInstalledOrOfEqualMetricsHaveAFile) {
