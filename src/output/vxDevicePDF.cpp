@@ -7,13 +7,14 @@
 
 #include "host/vxLog.h"
 #include "output/vxNumberWriter.h"
+#include "output/vxPDFFonts.h"
 #include "output/vxWriteExternal.h"
 #include "output/vxWriteStream.h"
 
 namespace Velarix {
 
 vxDevicePDF::vxDevicePDF(const vxUserSettings* settings)
-    : vxDevice(L"vxDevicePDF"), userSettings(settings) {}
+    : vxDevice(L"vxDevicePDF"), userSettings(settings), fonts(std::make_unique<vxPDFFonts>()) {}
 
 vxDevicePDF::~vxDevicePDF() = default;
 
@@ -57,6 +58,7 @@ void vxDevicePDF::setCreator(const std::wstring& text) {
 // at the top left, y downward.
 void vxDevicePDF::open() {
     resources.clear();
+    fonts->clear();
     file.clear();
     offsets.clear();
     pageState.clear();
@@ -74,6 +76,7 @@ void vxDevicePDF::close() {
     if (!isOpenDocument) return;
     isOpenDocument = false;
     try {
+        fonts->finish(resources);
         writeFile();
     } catch (const std::bad_alloc&) {
         file.clear();

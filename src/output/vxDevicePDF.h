@@ -26,8 +26,13 @@
 // to the shape, always opaque. A stroke with a gradient or a picture
 // keeps the current stroke colour. Shadows are hard copies.
 //
-// Text is set in the standard Helvetica fonts with their own widths, in
-// Windows-1252 codes. Pictures: a JPEG file keeps its compressed data;
+// Text is set in Windows-1252 codes, in the standard font of its family
+// or in the TrueType font the layout measured it with, embedded when the
+// font asks for it and its licence allows; a family that isn't installed
+// falls back to Helvetica. A line with characters beyond that code page
+// is set in a composite font of the layout's font file, embedded, with a
+// map back to Unicode. Lines are placed by the widths the document gives
+// its fonts. Pictures: a JPEG file keeps its compressed data;
 // every other picture is written as its pixels, deflated, with a soft mask
 // where it has transparency.
 //
@@ -52,6 +57,8 @@ class vxBitmap;
 class vxColorOLD;
 class vxGradientPaint;
 class vxImageMapping;
+class vxPDFFontABC;
+class vxPDFFonts;
 class vxTexturePaintOLD;
 class vxUserSettings;
 
@@ -246,6 +253,15 @@ private:
     std::string pixelImage(const vxBitmap& bitmap);
     void placeTiles(const vxImageMapping& mapping, const std::string& name);
 
+    // Lines of a text at their places (vxDevicePDFText.cpp).
+    std::string lineText(const std::wstring& line, const vxFontOLD& font,
+                         const vxPDFFontABC& pdfFont, const float bounds[4], short hAlignment,
+                         float y);
+    std::string otherLineText(const std::wstring& line, const vxFontOLD& font,
+                              const float bounds[4], short hAlignment, float y);
+    static std::string underline(const vxFontOLD& font, float position, float thickness, float x,
+                                 float y, float width);
+
     // Adds a resource; a failed allocation is error 5000 and gives an empty
     // name.
     std::string addResource(vxPDFResources::Table table, const std::string& dictionary,
@@ -263,6 +279,7 @@ private:
     std::vector<uint8_t> file;
     std::vector<long> offsets;  // of each object by number; 0 unused
     vxPDFResources resources;
+    std::unique_ptr<vxPDFFonts> fonts;  // the document's fonts, by family and style
     std::string content;
     std::string pageState;  // what starts every block: the clip
     bool doCompress = false;

@@ -144,7 +144,7 @@ std::string vxDevicePDF::resourceDictionary() const {
     for (int t = 0; t < vxPDFResources::kNumOfTables; ++t) {
         const auto table = static_cast<vxPDFResources::Table>(t);
         const auto& entries = resources.getEntries(table);
-        if (entries.empty()) continue;
+        if (entries.empty() || vxPDFResources::dictionaryKey(table) == nullptr) continue;
         s += std::string(vxPDFResources::dictionaryKey(table)) + " <<";
         for (const auto& entry : entries) {
             s += " " + entry.name + " " + std::to_string(objectNumberOf(entry.name)) + " 0 R";

@@ -13,6 +13,12 @@ std::string vxPDFResources::add(Table table, const std::string& dictionary,
     return name;
 }
 
+void vxPDFResources::replace(Table table, const std::string& name, const std::string& dictionary) {
+    for (Entry& entry : tables[table]) {
+        if (entry.name == name) entry.dictionary = dictionary;
+    }
+}
+
 long vxPDFResources::getNumOfEntries() const {
     size_t count = 0;
     for (const auto& entries : tables) count += entries.size();
@@ -24,13 +30,14 @@ void vxPDFResources::clear() {
 }
 
 const char* vxPDFResources::dictionaryKey(Table table) {
-    static const char* const kKeys[kNumOfTables] = {"/ColorSpace", "/ExtGState", "/Font",
+    static const char* const kKeys[kNumOfTables] = {"/ColorSpace", "/ExtGState", "/Font",   nullptr,
                                                     "/XObject",    "/Pattern",   "/Shading"};
     return kKeys[table];
 }
 
 const char* vxPDFResources::namePrefix(Table table) {
-    static const char* const kPrefixes[kNumOfTables] = {"/Cs", "/Gs", "/F", "/Im", "/Pa", "/Sh"};
+    static const char* const kPrefixes[kNumOfTables] = {"/Cs", "/Gs", "/F", "/Fd",
+                                                        "/Im", "/Pa", "/Sh"};
     return kPrefixes[table];
 }
 

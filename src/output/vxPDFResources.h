@@ -1,8 +1,9 @@
 // The resources of a PDF page, in typed tables that each give every
 // distinct resource one name: /Cs1, /Cs2 ... for colour spaces, /Gs for
 // graphics states, /F for fonts, /Im for images, /Pa for patterns and /Sh
-// for shadings. Asking for a resource equal to one already there (same
-// dictionary, same stream) gives the existing name.
+// for shadings. The parts of a font (its descriptor and its program) sit
+// in a table of their own that the page doesn't list. Asking for a resource equal to one already
+// there (same dictionary, same stream) gives the existing name.
 //
 // A resource is its dictionary text and, for a stream, its bytes. The
 // object numbers aren't known until the file is written, so a dictionary
@@ -23,6 +24,7 @@ public:
         kColorSpace,
         kGraphicsState,
         kFont,
+        kFontPart,
         kImage,
         kPattern,
         kShading,
@@ -39,12 +41,16 @@ public:
     // std::bad_alloc.
     std::string add(Table table, const std::string& dictionary,
                     const std::vector<uint8_t>& stream = {});
+    // Gives a named resource a new dictionary, for one that is complete
+    // only at the end of the document. Throws std::bad_alloc.
+    void replace(Table table, const std::string& name, const std::string& dictionary);
     const std::vector<Entry>& getEntries(Table table) const { return tables[table]; }
     long getNumOfEntries() const;
     void clear();
 
     // The name of a table's resources in the page's resource dictionary
-    // ("/ColorSpace"), and the prefix of their names ("/Cs").
+    // ("/ColorSpace"; null for the font parts, which aren't listed), and the prefix of their names
+    // ("/Cs").
     static const char* dictionaryKey(Table table);
     static const char* namePrefix(Table table);
     // The token that stands for "N 0 R" of the named resource.

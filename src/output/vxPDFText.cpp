@@ -36,6 +36,14 @@ std::vector<uint8_t> codesOf(std::wstring_view text) {
     return codes;
 }
 
+bool isWinAnsi(std::wstring_view text) {
+    for (wchar_t w : text) {
+        const auto c = static_cast<char16_t>(w);
+        if (c >= 0x100 && highCodeOf(c) < 0) return false;
+    }
+    return true;
+}
+
 std::string hexOf(const std::vector<uint8_t>& codes) {
     static const char kDigits[] = "0123456789ABCDEF";
     std::string hex;
@@ -49,20 +57,6 @@ std::string hexOf(const std::vector<uint8_t>& codes) {
 
 std::string hexOf(std::wstring_view text) {
     return hexOf(codesOf(text));
-}
-
-const char* baseFontName(bool isBold, bool isItalic) {
-    if (isBold) return isItalic ? "Helvetica-BoldOblique" : "Helvetica-Bold";
-    return isItalic ? "Helvetica-Oblique" : "Helvetica";
-}
-
-float widthOf(const std::vector<uint8_t>& codes, bool isBold, float size) {
-    const short* widths = isBold ? kHelveticaBoldWidths : kHelveticaWidths;
-    long sum = 0;
-    for (uint8_t code : codes) {
-        if (code >= 32) sum += widths[code - 32];
-    }
-    return static_cast<float>(sum) * size * 0.001f;
 }
 
 }  // namespace vxPDFText

@@ -204,8 +204,6 @@ TEST(DevicePDFText, CodesOfWindows1252) {
               "9F09");
     // Beyond the code page a character keeps its number in two codes.
     EXPECT_EQ(vxPDFText::hexOf(L"\u4e2d"), "4E2D");
-    EXPECT_STREQ(vxPDFText::baseFontName(true, true), "Helvetica-BoldOblique");
-    EXPECT_FLOAT_EQ(vxPDFText::widthOf(vxPDFText::codesOf(L"Hi"), true, 10), 10.0f);
 }
 
 TEST(DevicePDFText, RotationAndUnderline) {
