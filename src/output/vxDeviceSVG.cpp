@@ -44,8 +44,12 @@ void vxDeviceSVG::open() {
     document += L"<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\"\n";
     document += L"\t\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n";
     document += L"\n";
-    document += L"<svg width=\"" + vxNumberWriter::generalW(getWidth()) + L"\" height=\"" +
-                vxNumberWriter::generalW(getHeight()) + L"\">\n";
+    // The namespaces make browsers and editors read the file as a picture.
+    document +=
+        L"<svg xmlns=\"http://www.w3.org/2000/svg\" "
+        L"xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
+        vxNumberWriter::generalW(getWidth()) + L"\" height=\"" +
+        vxNumberWriter::generalW(getHeight()) + L"\">\n";
     if (!title.empty()) document += L"<title>" + title + L"</title>\n";
     if (!description.empty()) document += L"<desc>" + description + L"</desc>\n";
     if (!comment.empty()) document += L"<!-- " + comment + L" -->\n";

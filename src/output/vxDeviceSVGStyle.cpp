@@ -151,7 +151,9 @@ std::wstring vxDeviceSVG::textStyle(const vxFontOLD& font, const vxPaintOLD& pai
                                     short hAlignment) const {
     std::wstring s = L"style=\"" + clipPart();
     s += L"font-family: '" + font.getName() + L"'; ";
-    s += L"font-size: " + vxNumberWriter::generalW(font.getSize()) + L"pt; ";
+    // Text is laid out at one unit a point: sizes in user units keep the
+    // viewer's text as wide as the layout's.
+    s += L"font-size: " + vxNumberWriter::generalW(font.getSize()) + L"px; ";
     if (font.isBold()) s += L"font-weight: bold; ";
     if (font.isItalic()) s += L"font-style: italic; ";
     if (font.isUnderline()) s += L"text-decoration: underline; ";

@@ -150,7 +150,7 @@ TEST(vxText, SvgOfACentredTurnedTwoLineText) {
     const std::string rotate = "transform=\"rotate(" + test::streamed(kRightAngle * 57.29578) +
                                ",50," + test::streamed(top + height / 2.0f) + ")\" ";
     const std::string style =
-        "style=\"font-family: 'Arial'; font-size: 12pt; text-anchor: middle; fill: #ff0000; "
+        "style=\"font-family: 'Arial'; font-size: 12px; text-anchor: middle; fill: #ff0000; "
         "stroke: none;\" >\n";
     EXPECT_EQ(test::bodyOf(*device),
               "<text x=\"50\" y=\"" + test::streamed(test::baselineOf(arial, top)) + "\" " +

@@ -40,8 +40,10 @@ TEST(vxDeviceSVG, EmptyDrawingIsPrologAndEnd) {
     device.setSize(100, 50.25f);
     device.open();
     device.close();
-    EXPECT_EQ(vxToUtf8(device.getDocument()),
-              std::string(kProlog) + "<svg width=\"100\" height=\"50.25\">\n</svg>\n\n");
+    EXPECT_EQ(vxToUtf8(device.getDocument()), std::string(kProlog) +
+                                                  "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                                                  "xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+                                                  "width=\"100\" height=\"50.25\">\n</svg>\n\n");
     EXPECT_EQ(device.getDeviceID(), 6);
     EXPECT_EQ(device.getNumOfStreams(), 0);
     EXPECT_EQ(device.getStream(0), nullptr);
@@ -56,11 +58,13 @@ TEST(vxDeviceSVG, MetadataStandsUnescapedInTheProlog) {
     device.setComment(L"made <here>");
     device.open();
     device.close();
-    EXPECT_EQ(vxToUtf8(device.getDocument()), std::string(kProlog) +
-                                                  "<svg width=\"2e+06\" height=\"301\">\n"
-                                                  "<title>Sales & \xc3\xa4</title>\n"
-                                                  "<!-- made <here> -->\n"
-                                                  "</svg>\n\n");
+    EXPECT_EQ(vxToUtf8(device.getDocument()),
+              std::string(kProlog) +
+                  "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                  "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"2e+06\" height=\"301\">\n"
+                  "<title>Sales & \xc3\xa4</title>\n"
+                  "<!-- made <here> -->\n"
+                  "</svg>\n\n");
     device.setDescription(L"d");
     device.open();
     EXPECT_EQ(bodyOf(device).rfind("<title>Sales & \xc3\xa4</title>\n<desc>d</desc>\n<!--", 0), 0u);
@@ -82,7 +86,7 @@ TEST(vxDeviceSVG, WorkedExample) {
               "<text x=\"10\" y=\"" +
                   streamed(baselineOf(arial, 10)) +
                   "\" \n"
-                  "style=\"font-family: 'Arial'; font-size: 12pt; fill: #000000; stroke: none;\" "
+                  "style=\"font-family: 'Arial'; font-size: 12px; fill: #000000; stroke: none;\" "
                   ">\n"
                   "&#x0048;&#x0069;\n"
                   "</text>\n"

@@ -16,7 +16,8 @@ const std::string kEmptySVG =
     "<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\"\n"
     "\t\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n"
     "\n"
-    "<svg width=\"100\" height=\"50\">\n"
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+    "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"100\" height=\"50\">\n"
     "</svg>\n"
     "\n";
 
