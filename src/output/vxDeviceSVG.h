@@ -155,7 +155,9 @@ private:
     static std::wstring strokeParts(const vxStrokeOLD& stroke);
     std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
     std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;
-    std::wstring textStyle(const vxFontOLD& font, const vxPaintOLD& paint, short hAlignment) const;
+    // With `withClip` false the style leaves out the clip path.
+    std::wstring textStyle(const vxFontOLD& font, const vxPaintOLD& paint, short hAlignment,
+                           bool withClip = true) const;
 
     // Gradient definitions (vxDeviceSVGStyle.cpp). The gradient a paint
     // fills with, or null: a texture's is that of its gradient resource.

@@ -148,8 +148,8 @@ std::wstring vxDeviceSVG::fillStyle(const vxPaintOLD& paint, short windingRule) 
 }
 
 std::wstring vxDeviceSVG::textStyle(const vxFontOLD& font, const vxPaintOLD& paint,
-                                    short hAlignment) const {
-    std::wstring s = L"style=\"" + clipPart();
+                                    short hAlignment, bool withClip) const {
+    std::wstring s = L"style=\"" + (withClip ? clipPart() : std::wstring());
     s += L"font-family: '" + font.getName() + L"'; ";
     // Text is laid out at one unit a point: sizes in user units keep the
     // viewer's text as wide as the layout's.

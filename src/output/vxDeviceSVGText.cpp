@@ -69,11 +69,16 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
                    vxNumberWriter::generalW((bounds[0] + bounds[2]) / 2.0f) + L"," +
                    vxNumberWriter::generalW((bounds[1] + bounds[3]) / 2.0f) + L")\" ";
     }
-    const std::wstring style = textStyle(font, paint, hAlignment);
+    // A clip path is read in the user space of the element that uses it,
+    // its transform included: turned text takes its clip from a group
+    // around it, where the clip stands unturned.
+    const std::wstring clip = rotation.empty() ? std::wstring() : clipPart();
+    const std::wstring style = textStyle(font, paint, hAlignment, clip.empty());
     const std::wstring x = vxNumberWriter::generalW(anchorX(bounds, hAlignment));
     const float lineHeight = font.getLineHeight();
     float baseline = bounds[1] + lineHeight - font.getDescent();
     std::wstring s;
+    if (!clip.empty()) s += L"<g style=\"" + clip + L"\" >\n";
     for (const std::wstring& line : splitLines(text)) {
         s += L"<text x=\"" + x + L"\" y=\"" + vxNumberWriter::generalW(baseline) + L"\" " +
              rotation + L"\n";
@@ -82,6 +87,7 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
         s += L"</text>\n";
         baseline += lineHeight;
     }
+    if (!clip.empty()) s += L"</g>\n";
     document += s + L"\n";
 }
 
