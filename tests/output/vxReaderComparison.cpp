@@ -96,9 +96,8 @@ std::vector<BlockDifference> differingBlocks(const BlockPicture& ours, const Blo
             found.push_back({column * ours.block, row * ours.block, difference, a, b});
         }
     }
-    std::stable_sort(found.begin(), found.end(), [](const auto& l, const auto& r) {
-        return l.difference > r.difference;
-    });
+    std::stable_sort(found.begin(), found.end(),
+                     [](const auto& l, const auto& r) { return l.difference > r.difference; });
     return found;
 }
 

@@ -10,6 +10,9 @@
 
 namespace Velarix::test {
 
+// Which of the two readers' pictures to hold against our PNG.
+enum class CompareWith { kBoth, kOnlyPDF, kOnlySVG, kNeither };
+
 // A picture shown over white, cut into square blocks, each the mean of its
 // pixels per colour channel.
 struct BlockPicture {

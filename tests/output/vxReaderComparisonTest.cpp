@@ -3,13 +3,14 @@
 // the PDF must be sound to qpdf and its words must come back as text.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <set>
 #include <sstream>
 
 #include "output/vxReaderComparison.h"
+#include "output/vxReaderScripts.h"
 #include "support/vxTestRun.h"
 
 namespace Velarix::test {
@@ -18,18 +19,21 @@ namespace {
 namespace fs = std::filesystem;
 
 // Blocks of 8 by 8 pixels, each the mean of its pixels over white. A glyph of
-// another face moves ink inside the block it lies in, and an edge drawn half
-// a pixel apart moves at most 8 of 64 pixels, an eighth of the contrast: the
+// another face moves ink inside the block it lies in, and an edge drawn one
+// pixel apart moves at most 8 of 64 pixels, an eighth of the contrast: the
 // channel tolerance of 48 lets both pass. A shape that is missing or drawn in
 // another place or colour changes the whole block by the contrast of the
 // shape with what lies under it, far above 48 for any shape that can be seen.
 constexpr int kBlock = 8;
 constexpr int kTolerance = 48;
-// Text set in another face (poppler shows Verdana as Helvetica, librsvg picks
-// its own fallback) differs in whole blocks where its words run wider or
-// narrower: up to 2% of the blocks may differ, which is less than one shape
-// of 24 by 24 pixels on the smallest example.
-constexpr double kDifferingShare = 0.02;
+// Text set in another face (poppler shows Verdana as Helvetica) moves a few
+// blocks past the tolerance where its words run wider or narrower: a quarter
+// of a percent of the blocks, and at least 4, may differ. On the largest
+// example that is 13 blocks, fewer than a missing shape of 32 by 32 pixels
+// changes.
+size_t allowedBlocks(size_t blocks) {
+    return std::max<size_t>(4, blocks / 400);
+}
 
 struct Readers {
     bool rsvg = false, pdftoppm = false, pdftotext = false, qpdf = false;
@@ -53,15 +57,16 @@ std::string withOurSaves(const std::string& script, const std::string& name) {
     for (const char* format : {"PNG", "SVG", "PDF"}) {
         std::string extension = format;
         for (char& c : extension) c = char(std::tolower(c));
-        kept += std::string("SaveAs") + format + "File(\"" + name + "." + extension +
-                "\"; replace)\n";
+        kept +=
+            std::string("SaveAs") + format + "File(\"" + name + "." + extension + "\"; replace)\n";
     }
     return kept;
 }
 
 vxDecodedPicture decodedPNG(const std::string& path) {
     const std::string bytes = readFile(path);
-    return vxDecodePicture(vxImageFormat::kPNG, std::vector<unsigned char>(bytes.begin(), bytes.end()));
+    return vxDecodePicture(vxImageFormat::kPNG,
+                           std::vector<unsigned char>(bytes.begin(), bytes.end()));
 }
 
 // What one reader shows differs from our PNG in more blocks than allowed.
@@ -71,11 +76,10 @@ void expectLooksAlike(const vxDecodedPicture& ours, const std::string& theirsPat
     ASSERT_TRUE(theirs.ok) << what << ": no picture at " << theirsPath;
     const BlockPicture a = blocksOf(ours, kBlock);
     const auto differences = differingBlocks(a, blocksOf(theirs, kBlock), kTolerance);
-    const size_t allowed = size_t(kDifferingShare * double(a.means.size()));
-    EXPECT_LE(differences.size(), allowed)
-        << what << ": " << differences.size() << " of " << a.means.size()
-        << " blocks differ, the worst:\n"
-        << describeBlocks(differences, 8);
+    const size_t allowed = allowedBlocks(a.means.size());
+    EXPECT_LE(differences.size(), allowed) << what << ": " << differences.size() << " of "
+                                           << a.means.size() << " blocks differ, the worst:\n"
+                                           << describeBlocks(differences, 20);
 }
 
 // What a reader showed of one file: the PDF's text as poppler finds it and
@@ -85,8 +89,7 @@ struct ReaderResult {
     std::vector<std::string> svgWords;
 };
 
-// Which of the two readers' pictures to hold against our PNG.
-enum Compare { kBoth, kOnlyPDF, kOnlySVG, kNeither };
+using enum CompareWith;
 
 class ReaderComparison : public ::testing::Test {
 protected:
@@ -102,7 +105,7 @@ protected:
     // Writes the three files of the script into `folder`, checks the PDF
     // with qpdf and compares the readers' pictures as `compare` says.
     ReaderResult check(const std::string& folder, const std::string& name,
-                       const std::string& script, Compare compare = kBoth) {
+                       const std::string& script, CompareWith compare = kBoth) {
         RunResult run = runVelarix(withOurSaves(script, name), {"--base", folder});
         EXPECT_EQ(run.status, 0) << name << "\n" << run.err;
         const vxDecodedPicture png = decodedPNG(folder + "/" + name + ".png");
@@ -113,13 +116,18 @@ protected:
         std::string said;
         EXPECT_TRUE(runIn(folder, "qpdf --check " + name + ".pdf", &said)) << name << "\n" << said;
         const std::string w = std::to_string(png.width), h = std::to_string(png.height);
-        EXPECT_TRUE(runIn(folder, "rsvg-convert -w " + w + " -h " + h + " -o " + name +
-                                      "-svg.png " + name + ".svg", &said))
-            << name << "\n" << said;
-        EXPECT_TRUE(runIn(folder, "pdftoppm -r 72 -png -singlefile -scale-to-x " + w +
-                                      " -scale-to-y " + h + " " + name + ".pdf " + name + "-pdf",
+        EXPECT_TRUE(
+            runIn(folder,
+                  "rsvg-convert -w " + w + " -h " + h + " -o " + name + "-svg.png " + name + ".svg",
+                  &said))
+            << name << "\n"
+            << said;
+        EXPECT_TRUE(runIn(folder,
+                          "pdftoppm -r 72 -png -singlefile -scale-to-x " + w + " -scale-to-y " + h +
+                              " " + name + ".pdf " + name + "-pdf",
                           &said))
-            << name << "\n" << said;
+            << name << "\n"
+            << said;
         if (compare == kBoth || compare == kOnlySVG) {
             expectLooksAlike(png, folder + "/" + name + "-svg.png", name + ".svg by librsvg");
         }
@@ -152,7 +160,7 @@ void expectTextComesBack(const std::string& name, const ReaderResult& result) {
 // gradients gamma-corrected where SVG and PDF blend linearly, and a PDF
 // shading is centred where the raster device moves it to the focus. The
 // last is a fault of ours, kept here until it is mended.
-const std::map<std::string, Compare> kKnownDifferences = {
+const std::map<std::string, CompareWith> kKnownDifferences = {
     // hatches and textures in SVG, gamma-corrected gradients in the PNG, the
     // focus of the radial gradient and the gradient text in the PDF
     {"paints", kNeither},
@@ -163,6 +171,35 @@ const std::map<std::string, Compare> kKnownDifferences = {
     // shows only the lowest picture of each stack.
     {"bar-pictures", kNeither},
 };
+
+// The comparison itself: a missing square of 24 pixels is found, and a
+// drawing moved by one pixel is not.
+TEST(ReaderBlocks, FindMissingShapesAndPassSmallShifts) {
+    auto picture = [](int left, bool square) {
+        vxDecodedPicture p;
+        p.ok = true;
+        p.width = 64;
+        p.height = 48;
+        p.samples.assign(64 * 48 * 3, 255);
+        for (int y = 8; y < 40; ++y) {
+            for (int x = left; x < left + 40; ++x) {
+                const bool inSquare = square && x >= left + 8 && x < left + 32 && y >= 12 && y < 36;
+                if (y == 8 || y == 39 || x == left || x == left + 39 || inSquare) {
+                    p.samples[size_t(y * 64 + x) * 3] = 0;
+                }
+            }
+        }
+        return p;
+    };
+    const BlockPicture ours = blocksOf(picture(10, true), kBlock);
+    EXPECT_TRUE(differingBlocks(ours, blocksOf(picture(11, true), kBlock), kTolerance).empty());
+    const auto missing = differingBlocks(ours, blocksOf(picture(10, false), kBlock), kTolerance);
+    EXPECT_GT(missing.size(), allowedBlocks(ours.means.size()));
+    EXPECT_EQ(missing.front().difference, 255);
+    EXPECT_EQ(missing.front().ours, (vxRGBA{0, 255, 255, 255}));
+    const BlockPicture smaller = blocksOf(picture(10, true), 4);
+    EXPECT_EQ(differingBlocks(ours, smaller, kTolerance).size(), 1u);
+}
 
 TEST_F(ReaderComparison, EveryExampleLooksAlikeInEveryReader) {
     const std::string folder = makeTempFolder("readers-examples");
@@ -175,10 +212,19 @@ TEST_F(ReaderComparison, EveryExampleLooksAlikeInEveryReader) {
         ++count;
         const std::string name = entry.path().stem().string();
         const auto known = kKnownDifferences.find(name);
-        const Compare compare = known == kKnownDifferences.end() ? kBoth : known->second;
+        const CompareWith compare = known == kKnownDifferences.end() ? kBoth : known->second;
         expectTextComesBack(name, check(folder, name, readFile(entry.path().string()), compare));
     }
     EXPECT_GE(count, 14);
+}
+
+TEST_F(ReaderComparison, EveryShapePaintAndTextLooksAlikeInEveryReader) {
+    const std::string folder = makeTempFolder("readers-scripts");
+    fs::copy_file(fs::path(VELARIX_EXAMPLES_DIR) / "data" / "coin.png",
+                  fs::path(folder) / "coin.png");
+    for (const ReaderScript& script : kReaderScripts) {
+        expectTextComesBack(script.name, check(folder, script.name, script.script, script.compare));
+    }
 }
 
 }  // namespace
