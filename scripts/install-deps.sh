@@ -11,7 +11,7 @@ packages=(
   libfreetype-dev libfontconfig-dev fonts-dejavu-core fonts-liberation2
   libcairo2-dev libpng-dev libjpeg62-turbo-dev libgif-dev libtiff-dev libimagequant-dev
   zlib1g-dev
-  qpdf poppler-utils
+  qpdf poppler-utils librsvg2-bin
 )
 
 missing=()
