@@ -45,6 +45,8 @@
 
 namespace Velarix {
 
+class vxTexturePaintOLD;
+
 class vxGradientPaint;
 class vxImageMapping;
 class vxLinearGradient;
@@ -167,6 +169,10 @@ private:
     void writeDefinition(const vxPaintOLD& paint);
     void writeLinearGradient(const vxLinearGradient& gradient);
     void writeRadialGradient(const vxRadialGradient& gradient);
+    // A picture laid over its anchor, for areas filled with it; null for
+    // a texture without one.
+    static const vxTexturePaintOLD* anchoredPicture(const vxPaintOLD& paint);
+    void writePattern(const vxTexturePaintOLD& paint);
     static std::wstring gradientTail(const vxGradientPaint& gradient);
 
     // Elements (vxDeviceSVGShapes.cpp). The writers apply none of the
@@ -232,6 +238,7 @@ private:
     long clipCounter = 0;
     long linearGradientCounter = 0;
     long radialGradientCounter = 0;
+    long patternCounter = 0;
 };
 
 }  // namespace Velarix

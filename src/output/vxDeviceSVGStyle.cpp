@@ -12,6 +12,7 @@
 #include "output/vxDeviceSVG.h"
 #include "output/vxImage.h"
 #include "output/vxNumberWriter.h"
+#include "output/vxReadExternal.h"
 
 namespace Velarix {
 
@@ -88,6 +89,9 @@ std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& p
                                     bool isAreaFill) const {
     const std::wstring name = property;
     if (paint.getType() == vxPaintOLD::kTexture && !isAreaFill) return L"";
+    if (isAreaFill && anchoredPicture(paint)) {
+        return name + L": url(#pt" + std::to_wstring(patternCounter) + L"); ";
+    }
     if (const vxGradientPaint* gradient = gradientOf(paint)) {
         if (gradient->getType() == vxPaintOLD::kLinearGradient) {
             return name + L": url(#lg" + std::to_wstring(linearGradientCounter) + L"); ";
@@ -177,6 +181,7 @@ const vxGradientPaint* vxDeviceSVG::gradientOf(const vxPaintOLD& paint) {
 }
 
 void vxDeviceSVG::writeDefinition(const vxPaintOLD& paint) {
+    if (const vxTexturePaintOLD* picture = anchoredPicture(paint)) return writePattern(*picture);
     const vxGradientPaint* gradient = gradientOf(paint);
     if (!gradient) return;
     if (gradient->getType() == vxPaintOLD::kLinearGradient) {
@@ -221,6 +226,38 @@ std::wstring vxDeviceSVG::gradientTail(const vxGradientPaint& gradient) {
              L"\" style=\"stop-color: " + gradient.getColor(i)->toHashText() + L"; \"/>\n";
     }
     return s;
+}
+
+}  // namespace Velarix
+
+namespace Velarix {
+
+const vxTexturePaintOLD* vxDeviceSVG::anchoredPicture(const vxPaintOLD& paint) {
+    if (paint.getType() != vxPaintOLD::kTexture) return nullptr;
+    const auto& texture = static_cast<const vxTexturePaintOLD&>(paint);
+    const vxImage* image = texture.getImage();
+    if (!texture.hasImage() || !image || image->getGradient() || !image->getSource())
+        return nullptr;
+    return image->getSource()->getType() == kSourceFile ? &texture : nullptr;
+}
+
+// The picture stretched over the anchor and repeated from there, as the
+// raster device lays it.
+void vxDeviceSVG::writePattern(const vxTexturePaintOLD& paint) {
+    ++patternCounter;
+    float a[4];
+    paint.getAnchorBounds(a);
+    const std::wstring w = vxNumberWriter::generalW(a[2] - a[0]);
+    const std::wstring h = vxNumberWriter::generalW(a[3] - a[1]);
+    std::wstring s = L"<defs>\n<pattern id=\"pt" + std::to_wstring(patternCounter) +
+                     L"\" patternUnits=\"userSpaceOnUse\"\n";
+    s += L"\tx=\"" + vxNumberWriter::generalW(a[0]) + L"\" y=\"" + vxNumberWriter::generalW(a[1]) +
+         L"\" width=\"" + w + L"\" height=\"" + h + L"\">\n";
+    s += L"<image xlink:href=\"" + hrefOf(paint.getImage()->getSource()->getName()) +
+         L"\" x=\"0\" y=\"0\" width=\"" + w + L"\" height=\"" + h +
+         L"\" preserveAspectRatio=\"none\"/>\n";
+    s += L"</pattern>\n</defs>\n";
+    document += s;
 }
 
 }  // namespace Velarix
