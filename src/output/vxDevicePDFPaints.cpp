@@ -18,6 +18,9 @@ namespace Velarix {
 
 namespace {
 
+// A picture repeated over a shape stops at this many copies.
+constexpr long kMaxRepeatedAnchors = 10000;
+
 const char kBlockEnd[] = "Q\r\n";
 
 std::string number(double value) {
@@ -131,7 +134,27 @@ void vxDevicePDF::fillWithTexture(const vxTexturePaintOLD& paint, const std::str
     const std::string name = imageOf(*image);
     if (name.empty()) return;
     block("q " + pageState + path + (windingRule == 1 ? "W* n " : "W n "));
-    placeTiles(mapping, name);
+    // The anchor repeats over the shape, as the raster device lays it:
+    // pictures stacked along a bar stand one above the other.
+    const float w = anchor[2] - anchor[0], h = anchor[3] - anchor[1];
+    const auto steps = [](float from, float to, float origin, float size, long& first, long& last) {
+        first = long(std::floor((from - origin) / size));
+        last = long(std::ceil((to - origin) / size)) - 1;
+    };
+    long x0 = 0, x1 = 0, y0 = 0, y1 = 0;
+    if (w > 0.5f && h > 0.5f) {
+        steps(bounds[0], bounds[2], anchor[0], w, x0, x1);
+        steps(bounds[1], bounds[3], anchor[1], h, y0, y1);
+    }
+    if ((x1 - x0 + 1) * (y1 - y0 + 1) > kMaxRepeatedAnchors) x0 = x1 = y0 = y1 = 0;
+    for (long row = y0; row <= y1; ++row) {
+        for (long column = x0; column <= x1; ++column) {
+            const float at[4] = {anchor[0] + column * w, anchor[1] + row * h,
+                                 anchor[2] + column * w, anchor[3] + row * h};
+            mapping.setAnchor(at);
+            placeTiles(mapping, name);
+        }
+    }
     block(kBlockEnd);
 }
 

@@ -155,20 +155,18 @@ void expectTextComesBack(const std::string& name, const ReaderResult& result) {
 }
 
 // Examples whose pictures differ between the formats, and the readers whose
-// pictures are therefore not compared. Most are differences of the formats
+// pictures are therefore not compared. They are differences of the formats
 // themselves: SVG has no form for a hatch (its colour at half opacity stands
-// in) or a texture, the raster device blends gradients gamma-corrected where
+// in) or a texture tiled by its own layout, the raster device blends
+// gradients gamma-corrected where
 // SVG and PDF blend linearly, a PDF shading is centred where the raster
-// device moves it to the focus, and PDF text takes no gradient. The picture
-// bars in PDF are a fault of ours, kept here until it is mended.
+// device moves it to the focus, and PDF text takes no gradient.
 const std::map<std::string, CompareWith> kKnownDifferences = {
     // hatches and textures in SVG, gamma-corrected gradients in the PNG, the
     // focus of the radial gradient and the gradient text in the PDF
     {"paints", kNeither},
     // the hatched series in SVG
     {"sales-report", kOnlyPDF},
-    // The picture bars: the PDF shows only the lowest picture of each stack.
-    {"bar-pictures", kOnlySVG},
 };
 
 // The comparison itself: a missing square of 24 pixels is found, and a
