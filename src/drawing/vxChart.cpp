@@ -10,6 +10,8 @@
 #include "drawing/vxAdditionBuilder.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
+#include "furniture/vxLegend.h"
+#include "furniture/vxTitle.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
@@ -41,6 +43,10 @@ void vxChart::assign(vxAssign& a) {
             return assignAxes(a);
         case kGroupStyles:
             return assignStyle(a);
+        case kGroupLegend:
+            return assignLegend(a);
+        case kGroupTitle:
+            return assignTitle(a);
         default:
             return;
     }
@@ -179,9 +185,9 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (!layerMng) return;
     setUpAdditionLayers(layerMng);
     if (!isError()) setUpPlotLayers(layerMng);
-    // The legend comes here, with its own layer.
+    if (!isError()) setUpLegendLayer(layerMng);
     if (!isError()) setUpAdditionLayers(layerMng);
-    // The title comes here.
+    if (!isError()) setUpTitleLayer(layerMng);
     if (!isError()) setUpAdditionLayers(layerMng);
 }
 

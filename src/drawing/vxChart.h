@@ -16,6 +16,8 @@ class vxBaseChart;
 class vxStyleManager;
 class vxBaseChartParameters;
 class vxDataManager;
+class vxLegend;
+class vxTitle;
 
 class vxChart : public vxComponent {
 public:
@@ -47,6 +49,9 @@ public:
     // axes only.
     vxBaseChart* getChartType() const { return chartType.get(); }
     vxStyleManager* getStyleManager() const { return styleManager.get(); }
+    // Null until the script calls a function of their group.
+    vxLegend* getLegend() const { return legend.get(); }
+    vxTitle* getTitle() const { return title.get(); }
     const float* getChartBounds() const { return chartBounds; }
     const float* getGraphBounds() const { return graphBounds; }
     const float* getPlotBounds() const { return plotBounds; }
@@ -93,6 +98,15 @@ private:
     // Calls of any chart subject but the added shapes.
     bool hasChartCalls() const;
     bool tooManyAdditions();
+    // Title and legend (vxChartFurniture.cpp): made at their group's first
+    // call, measured before the plot is fitted, placed after it.
+    void assignLegend(vxAssign& assign);
+    void assignTitle(vxAssign& assign);
+    bool setUpBoxes();
+    void reserveBoxes(bool aroundFixedPlot);
+    void placeBoxes();
+    void setUpLegendLayer(vxLayerManager* layerMng);
+    void setUpTitleLayer(vxLayerManager* layerMng);
 
     bool fixedPlotArea;
     long chartFunction = -1;
@@ -104,6 +118,8 @@ private:
     std::unique_ptr<vxAxisManager> axisManager;
     std::unique_ptr<vxBaseChart> chartType;
     std::unique_ptr<vxStyleManager> styleManager;
+    std::unique_ptr<vxLegend> legend;
+    std::unique_ptr<vxTitle> title;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};
@@ -113,6 +129,13 @@ private:
     float chartMargins[4] = {10.0f, 10.0f, 10.0f, 10.0f};
     float graphMargins[4] = {8.0f, 8.0f, 8.0f, 8.0f};
     float innerMargins[4] = {8.0f, 8.0f, 8.0f, 8.0f};
+    // The gaps between the plot's room and the title's, and the legend's.
+    float titleLegendGaps[2] = {8.0f, 8.0f};
+    // The bands of a title and a legend outside the plot.
+    float titleBand[4] = {};
+    float legendBand[4] = {};
+    bool hasTitleBand = false;
+    bool hasLegendBand = false;
     bool doRecalcBounds = true;
     std::vector<double> axisMinValues;
     std::vector<double> axisMaxValues;

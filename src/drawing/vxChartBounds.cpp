@@ -50,9 +50,6 @@ void vxChart::setUpBounds() {
         setUpBoundsInFrame();
     }
     if (isError()) return;
-    for (int i = 0; i < 4; ++i) {
-        innerBounds[i] = plotBounds[i] + (i < 2 ? innerMargins[i] : -innerMargins[i]);
-    }
     doRecalcBounds = false;
 }
 
@@ -60,23 +57,28 @@ void vxChart::setUpBoundsInFrame() {
     for (int i = 0; i < 4; ++i) {
         graphBounds[i] = chartBounds[i] + (i < 2 ? chartMargins[i] : -chartMargins[i]);
     }
+    if (!setUpBoxes()) return;
+    reserveBoxes(false);
     if (isGraphAreaTooSmall()) return;
     fitPlot(kFittingRounds);
-    if (!isError()) isPlotAreaTooSmall();
+    if (isError()) return;
+    placeBoxes();
+    isPlotAreaTooSmall();
 }
 
 // The frame given is the plot; graph and chart lie around it.
 void vxChart::setUpBoundsOfFixedPlot() {
     std::copy(frame, frame + 4, plotBounds);
-    for (int i = 0; i < 4; ++i) {
-        const float out = i < 2 ? -1.0f : 1.0f;
-        graphBounds[i] = plotBounds[i] + out * graphMargins[i];
-        chartBounds[i] = graphBounds[i] + out * chartMargins[i];
-    }
+    for (int i = 0; i < 4; ++i) graphBounds[i] = plotBounds[i] + (i < 2 ? -1 : 1) * graphMargins[i];
+    if (!setUpBoxes()) return;
+    reserveBoxes(true);
+    for (int i = 0; i < 4; ++i)
+        chartBounds[i] = graphBounds[i] + (i < 2 ? -1 : 1) * chartMargins[i];
     if (isPlotAreaTooSmall() || isGraphAreaTooSmall()) return;
     // The plot stays; a second round scales the axes for the front of a
     // plot whose depth follows from the first.
     fitPlot(2);
+    if (!isError()) placeBoxes();
 }
 
 bool vxChart::isGraphAreaTooSmall() {

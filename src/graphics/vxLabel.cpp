@@ -78,6 +78,7 @@ void vxLabel::resetFields() {
     useRelativeMargins = true;
     mBackgroundShape = kRectangle;
     mBackgroundOptions.clear();
+    useContentBounds = false;
     invalidateBounds();
 }
 
@@ -269,6 +270,8 @@ bool vxLabel::set(const vxLabel* from) {
     if (from->auxiliaryLine && !createAuxiliaryLine(*from->auxiliaryLine)) return false;
     std::copy(from->margins, from->margins + 4, margins);
     useRelativeMargins = from->useRelativeMargins;
+    useContentBounds = from->useContentBounds;
+    std::copy(from->contentBounds, from->contentBounds + 4, contentBounds);
     invalidateBounds();
     return !isError();
 }

@@ -165,6 +165,11 @@ public:
     const std::vector<float>& getBackgroundOptions() const { return mBackgroundOptions; }
     // Fits the background to the box of the current text.
     void setUpBackground();
+    // A box around other content than the label's text (the entries of a
+    // legend, the two lines of a title): these bounds stand for the text's
+    // in the box's size and place, and move with the box.
+    void setContentBounds(const float bounds[4]);
+    bool hasContentBounds() const { return useContentBounds; }
 
     // ---- placing ---------------------------------------------------------
     // Moves the text so that the box's top left corner is at left, top, and
@@ -246,6 +251,8 @@ private:
     bool useRelativeMargins = true;
     short mBackgroundShape = kRectangle;
     std::vector<float> mBackgroundOptions;
+    bool useContentBounds = false;
+    float contentBounds[4] = {};
 };
 
 }  // namespace Velarix

@@ -57,7 +57,11 @@ float vxLabel::getBorderWidth() const {
 
 void vxLabel::getLabelBounds(float b[4]) const {
     float t[4] = {0.0f, 0.0f, 0.0f, 0.0f};
-    if (text) text->getBounds(t);
+    if (useContentBounds) {
+        std::copy(contentBounds, contentBounds + 4, t);
+    } else if (text) {
+        text->getBounds(t);
+    }
     float m[4];
     getMarginsDC(m);
     const float border = getBorderWidth();
@@ -109,7 +113,17 @@ void vxLabel::mapBackground(const float from[4], const float to[4]) {
 void vxLabel::setLocation(float left, float top) {
     float box[4];
     getLabelBounds(box);
-    if (text) text->shift(left - box[0], top - box[1]);
+    if (useContentBounds) {
+        for (int i = 0; i < 4; ++i) contentBounds[i] += i % 2 == 0 ? left - box[0] : top - box[1];
+    } else if (text) {
+        text->shift(left - box[0], top - box[1]);
+    }
+    setUpBackground();
+}
+
+void vxLabel::setContentBounds(const float bounds[4]) {
+    std::copy(bounds, bounds + 4, contentBounds);
+    useContentBounds = true;
     setUpBackground();
 }
 
