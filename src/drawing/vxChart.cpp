@@ -10,6 +10,7 @@
 #include "drawing/vxAdditionBuilder.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
+#include "furniture/vxBackgroundManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 #include "host/vxLog.h"
@@ -47,6 +48,8 @@ void vxChart::assign(vxAssign& a) {
             return assignLegend(a);
         case kGroupTitle:
             return assignTitle(a);
+        case kGroupChartBackground:
+            return assignChartBackground(a);
         default:
             return;
     }
@@ -122,6 +125,7 @@ void vxChart::setUp(const float bounds[4]) {
     setUpSeries();
     if (!isError() && doRecalcBounds) setUpBounds();
     if (!isError()) setUpChartType();
+    if (!isError()) setUpBackgrounds();
 }
 
 // The chart class gets the managers and the rectangles, then sets up its
@@ -184,6 +188,7 @@ void vxChart::assignAddition(vxAssign& a, float originX, float originY) {
 void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (!layerMng) return;
     setUpAdditionLayers(layerMng);
+    if (!isError()) setUpBackgroundLayers(layerMng);
     if (!isError()) setUpPlotLayers(layerMng);
     if (!isError()) setUpLegendLayer(layerMng);
     if (!isError()) setUpAdditionLayers(layerMng);

@@ -12,6 +12,7 @@
 namespace Velarix {
 
 class vxAxisManager;
+class vxBackgroundManager;
 class vxBaseChart;
 class vxStyleManager;
 class vxBaseChartParameters;
@@ -52,6 +53,7 @@ public:
     // Null until the script calls a function of their group.
     vxLegend* getLegend() const { return legend.get(); }
     vxTitle* getTitle() const { return title.get(); }
+    vxBackgroundManager* getBackgroundManager() const { return backgroundManager.get(); }
     const float* getChartBounds() const { return chartBounds; }
     const float* getGraphBounds() const { return graphBounds; }
     const float* getPlotBounds() const { return plotBounds; }
@@ -102,6 +104,9 @@ private:
     // call, measured before the plot is fitted, placed after it.
     void assignLegend(vxAssign& assign);
     void assignTitle(vxAssign& assign);
+    void assignChartBackground(vxAssign& assign);
+    void setUpBackgrounds();
+    void setUpBackgroundLayers(vxLayerManager* layerMng);
     bool setUpBoxes();
     void reserveBoxes(bool aroundFixedPlot);
     void placeBoxes();
@@ -120,6 +125,7 @@ private:
     std::unique_ptr<vxStyleManager> styleManager;
     std::unique_ptr<vxLegend> legend;
     std::unique_ptr<vxTitle> title;
+    std::unique_ptr<vxBackgroundManager> backgroundManager;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};

@@ -10,6 +10,9 @@
 #include "data/vxDataManager.h"
 #include "data/vxDataValueSeries.h"
 #include "drawing/vxChart.h"
+#include "furniture/vxBackgroundManager.h"
+#include "furniture/vxLegend.h"
+#include "furniture/vxTitle.h"
 
 namespace Velarix {
 

@@ -7,6 +7,9 @@
 #include "charts/vxBaseChart.h"
 #include "charts/vxBaseChartParameters.h"
 #include "drawing/vxChart.h"
+#include "furniture/vxBackgroundManager.h"
+#include "furniture/vxLegend.h"
+#include "furniture/vxTitle.h"
 #include "graphics/vxBoundsUnion.h"
 #include "settings/vxUserSettings.h"
 

@@ -2,7 +2,9 @@
 // room they take from the plot, their places and their layers.
 #include <algorithm>
 
+#include "charts/vxBaseChart.h"
 #include "drawing/vxChart.h"
+#include "furniture/vxBackgroundManager.h"
 #include "furniture/vxChartBoxPlacement.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
@@ -37,11 +39,12 @@ void vxChart::assignTitle(vxAssign& a) {
     doRecalcBounds = true;
 }
 
-// The title is wrapped to the width of the graph; the legend makes its
+// The title is wrapped to the width of the graph, and no text of it
+// takes more than a quarter of the graph's height; the legend makes its
 // entries for the chart's series.
 bool vxChart::setUpBoxes() {
     if (title) {
-        title->setUp(graphBounds[2] - graphBounds[0]);
+        title->setUp(graphBounds[2] - graphBounds[0], graphBounds[3] - graphBounds[1]);
         if (title->isError()) copyError(title->getError());
     }
     if (!isError() && legend) {
@@ -94,6 +97,28 @@ void vxChart::placeBoxes() {
             Placement::placeInArea(*box, plotBounds);
         }
     }
+}
+
+void vxChart::assignChartBackground(vxAssign& a) {
+    if (!backgroundManager &&
+        !create(backgroundManager, L"createBackgroundManager", getOwnerSettings())) {
+        return;
+    }
+    backgroundManager->assign(a);
+    if (backgroundManager->isError()) copyError(backgroundManager->getError());
+}
+
+// The planes stand on the plot, and with depth on the box behind it.
+void vxChart::setUpBackgrounds() {
+    if (!backgroundManager) return;
+    backgroundManager->setUp(plotBounds, chartType ? &chartType->getDepthInfo() : nullptr);
+    if (backgroundManager->isError()) copyError(backgroundManager->getError());
+}
+
+void vxChart::setUpBackgroundLayers(vxLayerManager* layerMng) {
+    if (!backgroundManager) return;
+    backgroundManager->setUpLayers(layerMng);
+    if (backgroundManager->isError()) copyError(backgroundManager->getError());
 }
 
 void vxChart::setUpLegendLayer(vxLayerManager* layerMng) {

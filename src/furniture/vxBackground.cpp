@@ -30,6 +30,7 @@ bool vxBackground::createQuad() {
 void vxBackground::assign(vxAssign& a) {
     switch (a.getFunction()) {
         case kBackground:
+        case kChartBackground:
             if (!createQuad()) return;
             vxAppearanceScript::readFill(*quad, a, ownerSettings, vxAppearanceScript::kSkipPart) &&
                 vxAppearanceScript::readBorder(*quad, a, ownerSettings,
@@ -38,6 +39,7 @@ void vxBackground::assign(vxAssign& a) {
             if (quad->isError()) copyError(quad->getError());
             return;
         case kBackgroundPict:
+        case kChartBackgroundPict:
             if (!create(picture, L"createPicture", ownerSettings)) return;
             picture->assignAddPicture(a);
             if (picture->isError()) copyError(picture->getError());
@@ -62,10 +64,45 @@ void vxBackground::setUp(const float r[4]) {
     if (picture) picture->set(r[0], r[1], r[2], r[3]);
 }
 
+void vxBackground::setUp(const float xs[4], const float ys[4], float nx, float ny) {
+    if (quad) {
+        quad->clear();
+        quad->moveTo(xs[0], ys[0]);
+        for (int i = 1; i < 4; ++i) quad->lineTo(xs[i], ys[i]);
+        quad->close();
+        if (quad->isError()) return copyError(quad->getError());
+        setUpSlab(xs, ys, nx, ny);
+    }
+    if (picture) picture->set(xs, ys);
+}
+
+// The slab: the plane moved by the thickness, and the four sides between
+// the two, drawn behind the plane in its look.
+void vxBackground::setUpSlab(const float xs[4], const float ys[4], float nx, float ny) {
+    slab.reset();
+    if (thickness <= 0.0f) return;
+    if (!create(slab, L"createBackground", ownerSettings)) return;
+    slab->getAppearance()->copy(quad->getAppearance());
+    const float dx = nx * thickness, dy = ny * thickness;
+    slab->moveTo(xs[0] + dx, ys[0] + dy);
+    for (int i = 1; i < 4; ++i) slab->lineTo(xs[i] + dx, ys[i] + dy);
+    slab->close();
+    for (int i = 0; i < 4; ++i) {
+        const int j = (i + 1) % 4;
+        slab->moveTo(xs[i], ys[i]);
+        slab->lineTo(xs[j], ys[j]);
+        slab->lineTo(xs[j] + dx, ys[j] + dy);
+        slab->lineTo(xs[i] + dx, ys[i] + dy);
+        slab->close();
+    }
+    if (slab->isError()) copyError(slab->getError());
+}
+
 void vxBackground::setUpLayer(vxLayerManager* layerMng, const float clip[4]) {
     if (!layerMng || (!quad && !picture)) return;
     std::unique_ptr<vxLayer> layer;
     if (!create(layer, L"setUpLayer", kLayerType, planeIndex, clip)) return;
+    if (slab) layer->addShape(slab.get());
     if (quad) layer->addShape(quad.get());
     if (picture) layer->addShape(picture.get());
     if (layer->isError()) return copyError(layer->getError());

@@ -19,6 +19,8 @@ namespace {
 
 constexpr short kTopCenter = 2;
 constexpr short kBoldStyle = 1;
+// The part of the chart's height each text may take.
+constexpr float kHeightShare = 0.25f;
 
 }  // namespace
 
@@ -99,19 +101,22 @@ bool vxTitle::isEmpty() const {
     return !hasText(title) && !hasText(subTitle) && !(background && background->hasBackground());
 }
 
-// A text wider than the room is wrapped to it.
-void vxTitle::fitWidth(vxText& text, float maxWidth) {
-    text.setMaxWidth(vxText::kNoLimit);
+// A text wider than the room is wrapped to it, and cut when it then grows
+// higher than its share.
+void vxTitle::fitText(vxText& text, float maxWidth, float maxHeight) {
+    text.setMaxSize(vxText::kNoLimit, vxText::kNoLimit);
     if (maxWidth > 0.0f && text.getStringWidth() > maxWidth) text.setMaxWidth(maxWidth);
+    if (maxHeight > 0.0f && text.getStringHeight() > maxHeight) text.setMaxHeight(maxHeight);
 }
 
-void vxTitle::setUp(float maxWidth) {
+void vxTitle::setUp(float maxWidth, float maxHeight) {
     if (!createBackground()) return;
     float margins[4];
     background->getMarginsDC(margins);
     const float room = maxWidth - margins[0] - margins[2] - background->getBorderWidth();
-    if (hasText(title)) fitWidth(*title, room);
-    if (hasText(subTitle)) fitWidth(*subTitle, room);
+    const float share = std::max(1.0f, maxHeight * kHeightShare);
+    if (hasText(title)) fitText(*title, room, share);
+    if (hasText(subTitle)) fitText(*subTitle, room, share);
     layOutTexts();
     if (title && title->isError()) return copyError(title->getError());
     if (subTitle && subTitle->isError()) return copyError(subTitle->getError());

@@ -6,7 +6,9 @@
 //
 // The title stands at the top centre of the chart unless its place says
 // otherwise; outside the plot it takes a band of the chart's room (see
-// vxChartBoxPlacement). A text wider than the room it may take is wrapped.
+// vxChartBoxPlacement). A text wider than the room it may take is wrapped,
+// and one that then grows too high is cut with an ellipsis, so that the
+// plot keeps its room.
 #pragma once
 
 #include <memory>
@@ -36,9 +38,9 @@ public:
 
     void assign(vxAssign& assign);
     bool isEmpty() const;
-    // Lays out the texts in a width of at most `maxWidth` and measures the
-    // box.
-    void setUp(float maxWidth);
+    // Lays out the texts in a box of at most `maxWidth` by `maxHeight` and
+    // measures it: each text takes at most a quarter of that height.
+    void setUp(float maxWidth, float maxHeight);
     // A layer of type 52: the background, the title, the subtitle.
     void setUpLayer(vxLayerManager* layerMng);
     // Inside the box, edges included.
@@ -61,7 +63,7 @@ private:
     bool createBackground();
     void assignTexts(vxAssign& assign);
     void assignOptions(vxAssign& assign);
-    void fitWidth(vxText& text, float maxWidth);
+    void fitText(vxText& text, float maxWidth, float maxHeight);
     void layOutTexts();
     bool hasText(const std::unique_ptr<vxText>& text) const;
 
