@@ -241,6 +241,9 @@ void vxChart::dump(short depth, std::ostream& out) const {
     vxDumpEnd(out);
     if (parameters) parameters->dump(static_cast<short>(depth - 1), out);
     if (dataManager) dataManager->dump(static_cast<short>(depth - 1), out);
+    if (backgroundManager) backgroundManager->dump(static_cast<short>(depth - 1), out);
+    if (legend) legend->dump(static_cast<short>(depth - 1), out);
+    if (title) title->dump(static_cast<short>(depth - 1), out);
 }
 
 }  // namespace Velarix

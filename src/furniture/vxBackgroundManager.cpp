@@ -47,7 +47,11 @@ void vxBackgroundManager::assignToPlane(short plane, vxAssign& a) {
         background.setThickness(std::fmax(0.0f, a.getFloat(0, background.getThickness())));
         return;
     }
+    // The readers move the argument offset on; each plane reads from the
+    // same start.
+    const long start = a.getArgumentOffset();
     background.assign(a);
+    a.addToArgumentOffset(start - a.getArgumentOffset());
     if (background.isError()) copyError(background.getError());
 }
 

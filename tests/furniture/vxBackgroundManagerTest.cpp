@@ -65,6 +65,8 @@ TEST_F(BackgroundScript, DepthGivesBackWallFloorAndSideWall) {
     EXPECT_EQ(boundsOf(*plane(3)->getQuad()), Rect({p[0], p[1] + dy, p[0] + dx, p[3]}));
     const std::vector<long> types = layerTypes();
     EXPECT_EQ(std::vector<long>(types.begin(), types.begin() + 3), std::vector<long>({60, 60, 60}));
+    // "all" gives every plane the same look.
+    for (short p : {1, 2, 3}) EXPECT_TRUE(plane(p)->getQuad()->hasFill()) << p;
 }
 
 TEST_F(BackgroundScript, ThicknessAddsASlabOutward) {
