@@ -1,8 +1,11 @@
 #include "furniture/vxBackground.h"
 
+#include <algorithm>
+
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "graphics/vxAppearanceScript.h"
+#include "graphics/vxClip2D.h"
 #include "graphics/vxGObjectAppearanceOLD.h"
 #include "graphics/vxPath2DOLD.h"
 #include "graphics/vxQuad2D.h"
@@ -62,6 +65,8 @@ void vxBackground::setUp(const float r[4]) {
         if (quad->isError()) return copyError(quad->getError());
     }
     if (picture) picture->set(r[0], r[1], r[2], r[3]);
+    pictureClip.reset();
+    clipReset.reset();
 }
 
 void vxBackground::setUp(const float xs[4], const float ys[4], float nx, float ny) {
@@ -73,7 +78,27 @@ void vxBackground::setUp(const float xs[4], const float ys[4], float nx, float n
         if (quad->isError()) return copyError(quad->getError());
         setUpSlab(xs, ys, nx, ny);
     }
-    if (picture) picture->set(xs, ys);
+    if (!picture) return;
+    float l = xs[0], t = ys[0], r = xs[0], b = ys[0];
+    for (int i = 1; i < 4; ++i) {
+        l = std::min(l, xs[i]), r = std::max(r, xs[i]);
+        t = std::min(t, ys[i]), b = std::max(b, ys[i]);
+    }
+    picture->set(l, t, r, b);
+    setUpPictureClip(xs, ys);
+}
+
+bool vxBackground::setUpPictureClip(const float xs[4], const float ys[4]) {
+    if (!create(pictureClip, L"createPicture", ownerSettings, short(vxClip2D::kIntersect)) ||
+        !create(clipReset, L"createPicture", ownerSettings)) {
+        return false;
+    }
+    vxPath2DOLD* path = pictureClip->createPath();
+    if (!path) return false;
+    path->moveTo(xs[0], ys[0]);
+    for (int i = 1; i < 4; ++i) path->lineTo(xs[i], ys[i]);
+    path->close();
+    return true;
 }
 
 // The slab: the plane moved by the thickness, and the four sides between
@@ -104,7 +129,9 @@ void vxBackground::setUpLayer(vxLayerManager* layerMng, const float clip[4]) {
     if (!create(layer, L"setUpLayer", kLayerType, planeIndex, clip)) return;
     if (slab) layer->addShape(slab.get());
     if (quad) layer->addShape(quad.get());
+    if (picture && pictureClip) layer->addShape(pictureClip.get());
     if (picture) layer->addShape(picture.get());
+    if (picture && pictureClip) layer->addShape(clipReset.get());
     if (layer->isError()) return copyError(layer->getError());
     layerMng->addLayer(std::move(layer));
     if (layerMng->isError()) copyError(layerMng->getError());

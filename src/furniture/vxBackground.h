@@ -4,7 +4,8 @@
 // with BackgroundPict or ChartBackgroundPict; setUp puts the plane on a
 // rectangle, or on the four corners of a wall of a chart with depth, and
 // setUpLayer hands it to the layers. A wall with a thickness shows it as a
-// slab behind the plane, `thickness` deep along the wall's normal.
+// slab behind the plane, `thickness` deep along the wall's normal. A
+// picture is placed in the plane's bounds and clipped to the plane.
 #pragma once
 
 #include <memory>
@@ -16,6 +17,7 @@ namespace Velarix {
 
 class vxAssign;
 class vxChart;
+class vxClip2D;
 class vxLayerManager;
 class vxPath2DOLD;
 class vxQuad2D;
@@ -54,6 +56,7 @@ public:
 
 private:
     bool createQuad();
+    bool setUpPictureClip(const float xs[4], const float ys[4]);
     void setUpSlab(const float xs[4], const float ys[4], float nx, float ny);
 
     vxUserSettings* ownerSettings;  // not owned
@@ -61,6 +64,10 @@ private:
     std::unique_ptr<vxPath2DOLD> quad;
     std::unique_ptr<vxQuad2D> picture;
     std::unique_ptr<vxPath2DOLD> slab;
+    // A picture on a wall that isn't upright stands in the wall's bounds,
+    // clipped to the wall; the second clip lifts the first.
+    std::unique_ptr<vxClip2D> pictureClip;
+    std::unique_ptr<vxClip2D> clipReset;
     short planeIndex = 1;
     float thickness = 0.0f;
     float xDepth = 0.0f;

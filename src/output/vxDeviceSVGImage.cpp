@@ -67,10 +67,12 @@ void vxDeviceSVG::writeGradientTiles(const vxImageMapping& mapping,
 void vxDeviceSVG::writeFileTiles(const vxImageMapping& mapping, const std::wstring& path) {
     if (mapping.isEmpty()) return;
     const std::wstring head = L"<image xlink:href=\"" + hrefOf(path) + L"\"\n";
+    // A picture keeps to the clip in force, as shapes do.
+    const std::wstring clip = isClipActive ? L"style=\"" + clipPart() + L"\"" : L"";
     std::wstring s;
     for (long row = 0; row < mapping.getNumOfRows(); ++row) {
         for (long column = 0; column < mapping.getNumOfColumns(); ++column) {
-            s += head + tileAttributes(mapping, row, column) + L"/>\n";
+            s += head + tileAttributes(mapping, row, column) + clip + L"/>\n";
         }
     }
     document += s;

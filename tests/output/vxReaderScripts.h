@@ -114,6 +114,12 @@ inline const ReaderScript kReaderScripts[] = {
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPicture(20; 10; 100; 100; file; \"coin.png\")\nCloseDrawing()\n",
      CompareWith::kBoth},
+    // A picture on each wall of a chart with depth, clipped to the wall.
+    {"wall-pictures",
+     "OpenDrawing(240; 180)\nBackground(white)\nBarChart(; ; ; 60)\nChartData(10 20 30)\n"
+     "AxisOptions(all; none)\nChartBackground(all; #eeeeee; ; 0.5; #777777)\n"
+     "ChartBackgroundPict(all; file; \"coin.png\"; 5; crop)\nCloseDrawing()\n",
+     CompareWith::kBoth},
 };
 
 }  // namespace Velarix::test
