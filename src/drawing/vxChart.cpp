@@ -10,6 +10,7 @@
 #include "drawing/vxAdditionBuilder.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
+#include "furniture/vxGridManager.h"
 #include "host/vxLog.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
@@ -41,6 +42,8 @@ void vxChart::assign(vxAssign& a) {
             return assignAxes(a);
         case kGroupStyles:
             return assignStyle(a);
+        case kGroupGrids:
+            return assignGrids(a);
         default:
             return;
     }
@@ -186,16 +189,20 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
 }
 
 // The backgrounds of the plot and the grids come first, when they exist;
-// then the axes and the series.
+// then the axes and the series, the grids in front, the axes in front.
 void vxChart::setUpPlotLayers(vxLayerManager* layerMng) {
     if (!axisManager || !hasAxes()) return;
     const float* clip = layerMng->getCurrentClipRect();
+    setUpGridLayers(layerMng, false);
+    if (isError()) return;
     axisManager->setUpLayers(layerMng, clip, false);
     if (axisManager->isError()) return copyError(axisManager->getError());
     if (chartType) {
         chartType->setUpLayers(layerMng);
         if (chartType->isError()) return copyError(chartType->getError());
     }
+    setUpGridLayers(layerMng, true);
+    if (isError()) return;
     axisManager->setUpLayers(layerMng, clip, true);
     if (axisManager->isError()) copyError(axisManager->getError());
 }

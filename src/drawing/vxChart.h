@@ -13,6 +13,7 @@ namespace Velarix {
 
 class vxAxisManager;
 class vxBaseChart;
+class vxGridManager;
 class vxStyleManager;
 class vxBaseChartParameters;
 class vxDataManager;
@@ -67,6 +68,10 @@ private:
     void setUpSeries();
     void assignAxes(vxAssign& assign);
     void assignStyle(vxAssign& assign);
+    // The grids (vxChartGrids.cpp): the manager is made at the first call
+    // of its group; the layers of the grids behind the series, or over them.
+    void assignGrids(vxAssign& assign);
+    void setUpGridLayers(vxLayerManager* layerMng, bool front);
     void setUpAdditionLayers(vxLayerManager* layerMng);
     void setUpPlotLayers(vxLayerManager* layerMng);
     // The rectangles of the chart, from its frame inward (vxChartBounds.cpp).
@@ -104,6 +109,7 @@ private:
     std::unique_ptr<vxAxisManager> axisManager;
     std::unique_ptr<vxBaseChart> chartType;
     std::unique_ptr<vxStyleManager> styleManager;
+    std::unique_ptr<vxGridManager> gridManager;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};
