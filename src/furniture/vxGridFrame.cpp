@@ -70,6 +70,7 @@ bool vxGridFrame::setUpPolygons(vxLayer& layer, const vxGridPolarPlane& plane) {
 
 // The corners: each end of the first axis moved by each end of the second
 // as seen from the crossing, clockwise on a plot that grows up and right.
+// The frame of a plane along x and y lies on the plane's edge pixels.
 bool vxGridFrame::setUpRectFrame(vxLayer& layer, const vxGridRectPlane& plane) {
     const vxGridAxis& a = plane.axes[0];
     const vxGridAxis& b = plane.axes[1];
@@ -81,9 +82,12 @@ bool vxGridFrame::setUpRectFrame(vxLayer& layer, const vxGridRectPlane& plane) {
                    a.ends[3] + b.ends[1] - c[1], a.ends[1] + b.ends[1] - c[1]};
     frame->set(xs, ys);
     if (frame->isAxisAligned()) {
+        float extent[4];
+        getExtent(plane, extent);
         const float width = lineWidth();
         for (int i = 0; i < 4; ++i) {
-            frame->setCorner(i, alignLine(xs[i], width), alignLine(ys[i], width));
+            frame->setCorner(i, alignLine(xs[i], width, extent[0], extent[2]),
+                             alignLine(ys[i], width, extent[1], extent[3]));
         }
     }
     if (layer.addShape(frame.get())) return true;

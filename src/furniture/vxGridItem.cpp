@@ -1,5 +1,6 @@
 #include "furniture/vxGridItem.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "drawing/vxLayer.h"
@@ -43,17 +44,40 @@ bool vxGridItem::add(vxLayer& layer, const vxGridPlane& plane, short shape) {
     }
 }
 
-float vxGridItem::alignLine(float position, float width) {
+float vxGridItem::alignLine(float position, float width, float low, float high) {
     const long pixels = std::max(1L, std::lround(width));
-    if (pixels % 2 == 0) return std::round(position);
-    return std::floor(position) + 0.5f;
+    const float half = 0.5f * float(pixels);
+    const float at = pixels % 2 ? std::floor(position) + 0.5f : std::round(position);
+    const float first = std::ceil(low) + half;
+    const float last = std::floor(high) - half;
+    return first <= last ? std::clamp(at, first, last) : at;
 }
 
-void vxGridItem::alignLine(float line[4], float width) {
+void vxGridItem::alignLine(float line[4], float width, const float extent[4]) {
     if (std::fabs(line[0] - line[2]) < kAlongTolerance) {
-        line[0] = line[2] = alignLine(line[0], width);
+        line[0] = line[2] = alignLine(line[0], width, extent[0], extent[2]);
     } else if (std::fabs(line[1] - line[3]) < kAlongTolerance) {
-        line[1] = line[3] = alignLine(line[1], width);
+        line[1] = line[3] = alignLine(line[1], width, extent[1], extent[3]);
+    }
+}
+
+// The corners are the ends of the first axis, each moved as far as the
+// ends of the second lie from the crossing.
+void vxGridItem::getExtent(const vxGridRectPlane& plane, float extent[4]) {
+    const float* a = plane.axes[0].ends;
+    const float* b = plane.axes[1].ends;
+    const float* c = plane.crossing;
+    extent[0] = extent[2] = a[0];
+    extent[1] = extent[3] = a[1];
+    for (int i = 0; i < 4; i += 2) {
+        for (int j = 0; j < 4; j += 2) {
+            const float x = a[i] + b[j] - c[0];
+            const float y = a[i + 1] + b[j + 1] - c[1];
+            extent[0] = std::min(extent[0], x);
+            extent[1] = std::min(extent[1], y);
+            extent[2] = std::max(extent[2], x);
+            extent[3] = std::max(extent[3], y);
+        }
     }
 }
 

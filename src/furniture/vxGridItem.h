@@ -56,11 +56,14 @@ public:
 
     // A device position of a line along x or y such that the line covers
     // whole pixels: an odd width centred on a pixel, an even one on the
-    // edge between two.
-    static float alignLine(float position, float width);
-    // The ends of a line (x1, y1, x2, y2) that runs along x or y, aligned;
-    // other lines stay.
-    static void alignLine(float line[4], float width);
+    // edge between two, and the pixels within [low, high] where they fit,
+    // so that lines on the edges of a plane stay on it.
+    static float alignLine(float position, float width, float low, float high);
+    // The ends of a line (x1, y1, x2, y2) that runs along x or y, aligned
+    // within `extent` (left, top, right, bottom); other lines stay.
+    static void alignLine(float line[4], float width, const float extent[4]);
+    // The rectangle that holds a Cartesian plane.
+    static void getExtent(const vxGridRectPlane& plane, float extent[4]);
     // Edges of fills lie between pixels.
     static float alignEdge(float position);
 

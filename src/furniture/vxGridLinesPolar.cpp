@@ -20,12 +20,15 @@ bool vxGridLines::setUpPolygons(vxLayer& layer, const vxGridPolarPlane& plane) {
 bool vxGridLines::addSpokes(vxLayer& layer, const vxGridPolarPlane& plane, bool polygonal) {
     const std::vector<float> corners = cornerAngles(plane, polygonal);
     const std::vector<float>& angles = plane.angles(gridOrder);
+    const float r = plane.outerRadius;
+    const float extent[4] = {plane.centre[0] - r, plane.centre[1] - r * plane.yRatio,
+                             plane.centre[0] + r, plane.centre[1] + r * plane.yRatio};
     LookGroups<vxLineArray2DOLD> groups;
     for (size_t i = 0; i < angles.size(); ++i) {
         float line[4];
         outlinePoint(plane, corners, angles[i], plane.innerRadius, line);
         outlinePoint(plane, corners, angles[i], plane.outerRadius, line + 2);
-        alignLine(line, lineWidthAt(long(i)));
+        alignLine(line, lineWidthAt(long(i)), extent);
         vxLineArray2DOLD* lines = shapeFor(groups, long(i));
         if (!lines) return false;
         if (!lines->addLine(line)) return takeError(*lines);

@@ -11,6 +11,8 @@ bool vxGridLines::setUpRects(vxLayer& layer, const vxGridRectPlane& plane) {
     const vxGridAxis& across = plane.axes[acrossAxis()];
     if (!(along.length() > 0.0f)) return true;
     const std::vector<float>& ticks = across.ticks(gridOrder);
+    float extent[4];
+    getExtent(plane, extent);
     LookGroups<vxLineArray2DOLD> groups;
     for (size_t i = 0; i < ticks.size(); ++i) {
         float tick[2];
@@ -19,7 +21,7 @@ bool vxGridLines::setUpRects(vxLayer& layer, const vxGridRectPlane& plane) {
         const float dy = tick[1] - plane.crossing[1];
         float line[4] = {along.ends[0] + dx, along.ends[1] + dy, along.ends[2] + dx,
                          along.ends[3] + dy};
-        alignLine(line, lineWidthAt(long(i)));
+        alignLine(line, lineWidthAt(long(i)), extent);
         vxLineArray2DOLD* lines = shapeFor(groups, long(i));
         if (!lines) return false;
         if (!lines->addLine(line)) return takeError(*lines);

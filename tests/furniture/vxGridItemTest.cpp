@@ -120,8 +120,9 @@ TEST(GridLines, LinesThroughTheTicksOnWholePixelsOneShapePerLook) {
     const auto& red = shapeAt<vxLineArray2DOLD>(layer, 0);
     const auto& blue = shapeAt<vxLineArray2DOLD>(layer, 1);
     EXPECT_EQ(rgb(red.getBorderPaint()), (std::vector<float>{255, 0, 0}));
-    // A line 1 wide stands in the middle of the pixel, from bottom to top.
-    EXPECT_EQ(red.getX(), (std::vector<float>{10.5f, 10.5f, 110.5f, 110.5f, 210.5f, 210.5f}));
+    // A line 1 wide stands in the middle of the pixel, from bottom to top;
+    // the last on the plane's last pixel.
+    EXPECT_EQ(red.getX(), (std::vector<float>{10.5f, 10.5f, 110.5f, 110.5f, 209.5f, 209.5f}));
     EXPECT_EQ(red.getY(), (std::vector<float>{110, 10, 110, 10, 110, 10}));
     EXPECT_EQ(blue.getX(), (std::vector<float>{60.5f, 60.5f, 160.5f, 160.5f}));
 
@@ -228,9 +229,10 @@ TEST(GridFrame, CornersOfThePlaneInTheFrameStyle) {
     const auto& quad = shapeAt<vxQuad2D>(layer, 0);
     EXPECT_EQ(rgb(quad.getBorderPaint()), (std::vector<float>{0, 0, 255}));
     EXPECT_FLOAT_EQ(quad.getBorderStroke()->getLineWidth(), 3);
-    // Clockwise from the top left, on pixel centres for a width of 3.
-    EXPECT_EQ(quad.getX(), (std::vector<float>{10.5f, 210.5f, 210.5f, 10.5f}));
-    EXPECT_EQ(quad.getY(), (std::vector<float>{10.5f, 10.5f, 110.5f, 110.5f}));
+    // Clockwise from the top left, on pixel centres for a width of 3, the
+    // outermost pixels of the plane.
+    EXPECT_EQ(quad.getX(), (std::vector<float>{11.5f, 208.5f, 208.5f, 11.5f}));
+    EXPECT_EQ(quad.getY(), (std::vector<float>{11.5f, 11.5f, 108.5f, 108.5f}));
 
     // The side wall of a chart with depth is a parallelogram.
     vxGridPlane wall = flatPlane();
