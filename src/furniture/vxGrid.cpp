@@ -65,33 +65,46 @@ vxGridStripes* vxGrid::stripesOf(short order, short direction) {
 
 void vxGrid::assignList(vxAssign& a, short direction) {
     if (direction != 0 && direction != 1) return;
-    const long function = a.getFunction();
-    const short order = orderOf(function);
+    const short order = orderOf(a.getFunction());
     vxGridItem* part = nullptr;
-    if (function == kMajorGridLineColors || function == kMinorGridLineColors ||
-        function == kMajorGridLinePatterns || function == kMinorGridLinePatterns ||
-        function == kMajorGridLineWidths || function == kMinorGridLineWidths) {
-        vxGridLines* lines = linesOf(order, direction);
-        if (!lines) return;
-        if (function == kMajorGridLineColors || function == kMinorGridLineColors) {
-            lines->assignColors(a);
-        } else if (function == kMajorGridLineWidths || function == kMinorGridLineWidths) {
-            lines->assignWidths(a);
-        } else {
-            lines->assignPatterns(a);
-        }
-        part = lines;
-    } else {
-        vxGridStripes* stripes = stripesOf(order, direction);
-        if (!stripes) return;
-        if (function == kMajorGridStripeColors || function == kMinorGridStripeColors) {
-            stripes->assignColors(a);
-        } else {
-            stripes->assignPatterns(a);
-        }
-        part = stripes;
+    switch (a.getFunction()) {
+        case kMajorGridStripeColors:
+        case kMinorGridStripeColors:
+        case kMajorGridStripePatterns:
+        case kMinorGridStripePatterns:
+            part = assignStripes(a, order, direction);
+            break;
+        default:
+            part = assignLines(a, order, direction);
+            break;
     }
-    if (part->isError()) copyError(part->getError());
+    if (part && part->isError()) copyError(part->getError());
+}
+
+vxGridItem* vxGrid::assignLines(vxAssign& a, short order, short direction) {
+    vxGridLines* lines = linesOf(order, direction);
+    if (!lines) return nullptr;
+    const long function = a.getFunction();
+    if (function == kMajorGridLineColors || function == kMinorGridLineColors) {
+        lines->assignColors(a);
+    } else if (function == kMajorGridLineWidths || function == kMinorGridLineWidths) {
+        lines->assignWidths(a);
+    } else {
+        lines->assignPatterns(a);
+    }
+    return lines;
+}
+
+vxGridItem* vxGrid::assignStripes(vxAssign& a, short order, short direction) {
+    vxGridStripes* stripes = stripesOf(order, direction);
+    if (!stripes) return nullptr;
+    const long function = a.getFunction();
+    if (function == kMajorGridStripeColors || function == kMinorGridStripeColors) {
+        stripes->assignColors(a);
+    } else {
+        stripes->assignPatterns(a);
+    }
+    return stripes;
 }
 
 void vxGrid::assignFrame(vxAssign& a) {

@@ -64,8 +64,11 @@ public:
     void dump(short depth, std::ostream& out) const;
 
 private:
+    // The part of the order and direction, made on first use.
     vxGridLines* linesOf(short order, short direction);
     vxGridStripes* stripesOf(short order, short direction);
+    vxGridItem* assignLines(vxAssign& assign, short order, short direction);
+    vxGridItem* assignStripes(vxAssign& assign, short order, short direction);
 
     vxUserSettings* owner;
     long planeIndex;

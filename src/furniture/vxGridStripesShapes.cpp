@@ -15,6 +15,27 @@ bool runsAlongXOrY(const vxGridAxis& axis) {
     return axis.ends[0] == axis.ends[2] || axis.ends[1] == axis.ends[3];
 }
 
+// The quad of a stripe: the axis it runs along, moved to each end of the
+// span as seen from the crossing.
+void stripeCorners(const vxGridRectPlane& plane, const vxGridAxis& along, const vxGridAxis& across,
+                   const vxGridStripes::Span& span, bool aligned, std::vector<float>& xs,
+                   std::vector<float>& ys) {
+    float a[2], b[2];
+    across.pointAt(span.from, a);
+    across.pointAt(span.to, b);
+    const float* e = along.ends;
+    xs = {e[0] + a[0], e[2] + a[0], e[2] + b[0], e[0] + b[0]};
+    ys = {e[1] + a[1], e[3] + a[1], e[3] + b[1], e[1] + b[1]};
+    for (size_t i = 0; i < 4; ++i) {
+        xs[i] -= plane.crossing[0];
+        ys[i] -= plane.crossing[1];
+        if (aligned) {
+            xs[i] = vxGridItem::alignEdge(xs[i]);
+            ys[i] = vxGridItem::alignEdge(ys[i]);
+        }
+    }
+}
+
 }  // namespace
 
 bool vxGridStripes::setUpRects(vxLayer& layer, const vxGridRectPlane& plane) {
@@ -25,19 +46,9 @@ bool vxGridStripes::setUpRects(vxLayer& layer, const vxGridRectPlane& plane) {
     LookGroups<vxPath2DOLD> groups;
     try {
         const std::vector<Span> spans = stripeSpans(across.major, across.minor, gridOrder);
+        std::vector<float> xs(4), ys(4);
         for (size_t k = 0; k < spans.size(); ++k) {
-            float a[2], b[2];
-            across.pointAt(spans[k].from, a);
-            across.pointAt(spans[k].to, b);
-            std::vector<float> xs = {along.ends[0] + a[0], along.ends[2] + a[0],
-                                     along.ends[2] + b[0], along.ends[0] + b[0]};
-            std::vector<float> ys = {along.ends[1] + a[1], along.ends[3] + a[1],
-                                     along.ends[3] + b[1], along.ends[1] + b[1]};
-            for (size_t i = 0; i < 4; ++i) {
-                xs[i] -= plane.crossing[0];
-                ys[i] -= plane.crossing[1];
-                if (aligned) xs[i] = alignEdge(xs[i]), ys[i] = alignEdge(ys[i]);
-            }
+            stripeCorners(plane, along, across, spans[k], aligned, xs, ys);
             vxPath2DOLD* stripes = shapeFor(groups, long(k));
             if (!stripes) return false;
             stripes->addPolygon(xs, ys, true);
