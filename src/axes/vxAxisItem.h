@@ -70,6 +70,10 @@ public:
     void getAxisEnds(float ends[4]) const;
     // Where major tick i meets the line; false out of range.
     bool getTickPoint(long index, float point[2]) const;
+    // Where the ticks of an order (1 major, 2 minor) stand along the line,
+    // whether the axis shows its marks or not: x of an axis along the
+    // bottom, y of one along the side.
+    void getTickPositions(short order, std::vector<float>& positions) const;
     long getNumOfMajorTicks() const;
     long getNumOfMinorTicks() const;
     float toDC(double value) const;

@@ -230,10 +230,18 @@ void vxAxisItem::getAxisEnds(float ends[4]) const {
 
 bool vxAxisItem::getTickPoint(long index, float point[2]) const {
     if (!scaling || index < 0 || index >= scaling->getNumOfMajorValues()) return false;
-    const float along = scaling->toDC(scaling->getMajorValue(index));
-    point[0] = geometry.horizontal ? along : geometry.across;
-    point[1] = geometry.horizontal ? geometry.across : along;
+    std::vector<float> along;
+    tickPositions({scaling->getMajorValue(index)}, along);
+    if (along.empty()) return false;
+    point[0] = geometry.horizontal ? along[0] : geometry.across;
+    point[1] = geometry.horizontal ? geometry.across : along[0];
     return true;
+}
+
+void vxAxisItem::getTickPositions(short order, std::vector<float>& positions) const {
+    positions.clear();
+    if (!scaling) return;
+    tickPositions(order == 2 ? scaling->getMinorValues() : scaling->getMajorValues(), positions);
 }
 
 // The room the minor labels take across the axis, with the gap the major

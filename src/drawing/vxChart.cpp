@@ -11,6 +11,7 @@
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "furniture/vxBackgroundManager.h"
+#include "furniture/vxGridManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 #include "host/vxLog.h"
@@ -50,6 +51,8 @@ void vxChart::assign(vxAssign& a) {
             return assignTitle(a);
         case kGroupChartBackground:
             return assignChartBackground(a);
+        case kGroupGrids:
+            return assignGrids(a);
         default:
             return;
     }
@@ -197,16 +200,20 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
 }
 
 // The backgrounds of the plot and the grids come first, when they exist;
-// then the axes and the series.
+// then the axes and the series, the grids in front, the axes in front.
 void vxChart::setUpPlotLayers(vxLayerManager* layerMng) {
     if (!axisManager || !hasAxes()) return;
     const float* clip = layerMng->getCurrentClipRect();
+    setUpGridLayers(layerMng, false);
+    if (isError()) return;
     axisManager->setUpLayers(layerMng, clip, false);
     if (axisManager->isError()) return copyError(axisManager->getError());
     if (chartType) {
         chartType->setUpLayers(layerMng);
         if (chartType->isError()) return copyError(chartType->getError());
     }
+    setUpGridLayers(layerMng, true);
+    if (isError()) return;
     axisManager->setUpLayers(layerMng, clip, true);
     if (axisManager->isError()) copyError(axisManager->getError());
 }
@@ -242,6 +249,7 @@ void vxChart::dump(short depth, std::ostream& out) const {
     if (parameters) parameters->dump(static_cast<short>(depth - 1), out);
     if (dataManager) dataManager->dump(static_cast<short>(depth - 1), out);
     if (backgroundManager) backgroundManager->dump(static_cast<short>(depth - 1), out);
+    if (gridManager) gridManager->dump(static_cast<short>(depth - 1), out);
     if (legend) legend->dump(static_cast<short>(depth - 1), out);
     if (title) title->dump(static_cast<short>(depth - 1), out);
 }

@@ -14,6 +14,7 @@ namespace Velarix {
 class vxAxisManager;
 class vxBackgroundManager;
 class vxBaseChart;
+class vxGridManager;
 class vxStyleManager;
 class vxBaseChartParameters;
 class vxDataManager;
@@ -74,6 +75,10 @@ private:
     void setUpSeries();
     void assignAxes(vxAssign& assign);
     void assignStyle(vxAssign& assign);
+    // The grids (vxChartGrids.cpp): the manager is made at the first call
+    // of its group; the layers of the grids behind the series, or over them.
+    void assignGrids(vxAssign& assign);
+    void setUpGridLayers(vxLayerManager* layerMng, bool front);
     void setUpAdditionLayers(vxLayerManager* layerMng);
     void setUpPlotLayers(vxLayerManager* layerMng);
     // The rectangles of the chart, from its frame inward (vxChartBounds.cpp).
@@ -126,6 +131,7 @@ private:
     std::unique_ptr<vxLegend> legend;
     std::unique_ptr<vxTitle> title;
     std::unique_ptr<vxBackgroundManager> backgroundManager;
+    std::unique_ptr<vxGridManager> gridManager;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};

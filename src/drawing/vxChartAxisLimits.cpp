@@ -11,6 +11,7 @@
 #include "data/vxDataValueSeries.h"
 #include "drawing/vxChart.h"
 #include "furniture/vxBackgroundManager.h"
+#include "furniture/vxGridManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 

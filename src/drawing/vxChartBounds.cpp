@@ -8,6 +8,7 @@
 #include "charts/vxBaseChartParameters.h"
 #include "drawing/vxChart.h"
 #include "furniture/vxBackgroundManager.h"
+#include "furniture/vxGridManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 #include "graphics/vxBoundsUnion.h"

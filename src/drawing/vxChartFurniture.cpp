@@ -6,6 +6,7 @@
 #include "drawing/vxChart.h"
 #include "furniture/vxBackgroundManager.h"
 #include "furniture/vxChartBoxPlacement.h"
+#include "furniture/vxGridManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 

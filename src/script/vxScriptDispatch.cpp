@@ -28,10 +28,11 @@ void vxScript::dispatch() {
         case kGroupMisc:
             return dispatchMisc();
         case kGroupAxes:
+        case kGroupGrids:
         case kGroupStyles:
             // Scales are checked against the data only when the chart is
-            // laid out, and styles check their selection; the call's place
-            // goes with them.
+            // laid out, and grids and styles check their selection; the
+            // call's place goes with them.
             assign->setCallPlace({callLine, fnName, errScriptPart(callBegin, closePos + 1)});
             return dispatchToView();
         default:
