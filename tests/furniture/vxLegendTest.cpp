@@ -339,6 +339,17 @@ TEST_F(LegendScript, EntriesStandByTheirMarkers) {
     EXPECT_NEAR(text[1], item->getMarkerBox()[3] + 4.0f, 1e-3);
     EXPECT_NEAR((text[0] + text[2]) / 2, (item->getMarkerBox()[0] + item->getMarkerBox()[2]) / 2,
                 0.5f);
+    // Beside the marker, a text keeps to its alignment in the rest of the
+    // cell: aligned right, a short text ends where the longest does.
+    ASSERT_EQ(run(L"BarChart()\nChartData(1; 2)\nLegendTexts(\"a\"; \"a longer one\")\n"
+                  L"LegendStyle(; ; ; ; right)\n"),
+              0)
+        << message();
+    float other[4];
+    const_cast<vxText*>(legend().getItem(0)->getText())->getBounds(text);
+    const_cast<vxText*>(legend().getItem(1)->getText())->getBounds(other);
+    EXPECT_NEAR(text[2], other[2], 0.5f);
+    EXPECT_GT(text[0], other[0] + 20.0f);
 }
 
 TEST_F(LegendScript, IncompleteRowsStandCentred) {
