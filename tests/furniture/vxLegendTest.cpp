@@ -12,7 +12,6 @@
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"
 #include "furniture/vxLegend.h"
-#include "furniture/vxLegendStandardItem.h"
 #include "furniture/vxLegendWords.h"
 #include "furniture/vxTitle.h"
 #include "graphics/vxBasicSymbol.h"
@@ -91,24 +90,6 @@ TEST_F(LegendScript, OptionsReadInCatalogueOrderAndVoidKeeps) {
     EXPECT_EQ(legend().getItemLayout().markerHeight, 7.0f);
     EXPECT_FLOAT_EQ(legend().getRowGapDC(), fontSize);
     EXPECT_EQ(legend().getColumnGapDC(), vxLegend::kDefaultColumnGap);
-}
-
-TEST_F(LegendScript, DefaultsWithoutOptions) {
-    ASSERT_EQ(run(std::wstring(kThreeSeries) + L"LegendStyle()\n"), 0) << message();
-    const vxLegend& l = legend();
-    EXPECT_EQ(l.getBoxLocation(), vxLegend::kAutomaticLocation);
-    EXPECT_FALSE(l.isBoxInside());
-    EXPECT_EQ(l.getNumOfRows(), 10);
-    EXPECT_EQ(l.getNumOfColumns(), -1);
-    // Bars take an area; the marker is 12 square, 4 from its text.
-    EXPECT_EQ(l.getMarkerType(), 1);
-    EXPECT_EQ(l.getItemLayout().markerWidth, 12.0f);
-    EXPECT_EQ(l.getItemLayout().markerGap, 4.0f);
-    EXPECT_EQ(l.getRowGapDC(), 8.0f);
-    EXPECT_EQ(l.getColumnGapDC(), 6.0f);
-    ASSERT_EQ(l.getNumOfEntries(), 3);
-    EXPECT_EQ(l.getGrid().getNumOfRows(), 3);
-    EXPECT_EQ(l.getGrid().getNumOfColumns(), 1);
 }
 
 TEST_F(LegendScript, EntriesFromTheSeriesOrFromTheTexts) {
@@ -313,10 +294,6 @@ TEST_F(LegendScript, AreaShapes) {
             << message();
         EXPECT_EQ(legend().getItem(0)->getArea()->getNumOfVerbs(), verbs) << options;
     }
-    EXPECT_EQ(vxLegendStandardItem::shapeOf(8, 0), vxLegendStandardItem::kOvalShape);
-    EXPECT_EQ(vxLegendStandardItem::shapeOf(24, 0), vxLegendStandardItem::kDiamondShape);
-    EXPECT_EQ(vxLegendStandardItem::shapeOf(24, 3), vxLegendStandardItem::kRoundRect);
-    EXPECT_EQ(vxLegendStandardItem::shapeOf(1, 0), vxLegendStandardItem::kRectangle);
 }
 
 TEST_F(LegendScript, EntriesStandByTheirMarkers) {
