@@ -132,6 +132,8 @@ private:
     float toDC(float value, bool relative) const;
     // ---- layout (vxLegendLayout.cpp) ----
     void dropEntriesBeyondGrid();
+    bool measureItems(const vxLegendItem::Layout& layout, std::vector<float>& widths,
+                      std::vector<float>& heights);
     void setUpColumnsWidths(const std::vector<float>& widths);
     void setUpRowHeights(const std::vector<float>& heights);
     void placeItems(const vxLegendItem::Layout& layout, float contentWidth, float contentHeight);

@@ -94,35 +94,51 @@ void vxLegendItem::getSize(const Layout& layout, float size[2]) {
 void vxLegendItem::place(const float cell[4], const Layout& layout) {
     const short keypad = keypadOf(layout.textLocation);
     const int row = (keypad - 1) / 3, column = (keypad - 1) % 3;
-    const float mw = layout.markerWidth, mh = layout.markerHeight, gap = layout.markerGap;
     if (text && row != 1) text->setHAlignment(static_cast<short>(column + 1));
     float t[2];
     getTextSize(t);
-    const short textAlignment = text ? text->getHAlignment() : short(vxText::kLeft);
-    float mx = 0.0f, my = 0.0f, tx = 0.0f, ty = 0.0f;
+    float marker[2], at[2];
     if (row == 1) {
-        my = cell[1] + (cell[3] - cell[1] - mh) * 0.5f;
-        ty = cell[1] + (cell[3] - cell[1] - t[1]) * 0.5f;
-        float from = cell[0], to = cell[2];
-        if (column == 2) {
-            mx = cell[0];
-            from = mx + mw + gap;
-        } else if (column == 0) {
-            mx = cell[2] - mw;
-            to = mx - gap;
-        } else {
-            mx = alignIn(cell[0], cell[2], mw, vxText::kCenter);
-        }
-        tx = alignIn(from, to, t[0], textAlignment);
+        placeBeside(cell, layout, column, t, marker, at);
     } else {
-        const float top = cell[1] + (cell[3] - cell[1] - (mh + gap + t[1])) * 0.5f;
-        ty = row == 0 ? top : top + mh + gap;
-        my = row == 0 ? top + t[1] + gap : top;
-        mx = alignIn(cell[0], cell[2], mw, static_cast<short>(column + 1));
-        tx = alignIn(cell[0], cell[2], t[0], static_cast<short>(column + 1));
+        placeAcross(cell, layout, row, column, t, marker, at);
     }
-    moveMarkerTo(std::round(mx), std::round(my));
-    moveTextTo(std::round(tx), std::round(ty));
+    moveMarkerTo(std::round(marker[0]), std::round(marker[1]));
+    moveTextTo(std::round(at[0]), std::round(at[1]));
+}
+
+// Left of, over or right of the marker, both centred in the cell's height;
+// the marker keeps to the cell's edge away from the text.
+void vxLegendItem::placeBeside(const float cell[4], const Layout& layout, int column,
+                               const float t[2], float marker[2], float at[2]) const {
+    const float mw = layout.markerWidth, gap = layout.markerGap;
+    marker[1] = cell[1] + (cell[3] - cell[1] - layout.markerHeight) * 0.5f;
+    at[1] = cell[1] + (cell[3] - cell[1] - t[1]) * 0.5f;
+    float from = cell[0], to = cell[2];
+    if (column == 2) {
+        marker[0] = cell[0];
+        from = marker[0] + mw + gap;
+    } else if (column == 0) {
+        marker[0] = cell[2] - mw;
+        to = marker[0] - gap;
+    } else {
+        marker[0] = alignIn(cell[0], cell[2], mw, vxText::kCenter);
+    }
+    const short alignment = text ? text->getHAlignment() : short(vxText::kLeft);
+    at[0] = alignIn(from, to, t[0], alignment);
+}
+
+// Above (row 0) or below (row 2) the marker, the two centred in the cell's
+// height together and aligned by the column across it.
+void vxLegendItem::placeAcross(const float cell[4], const Layout& layout, int row, int column,
+                               const float t[2], float marker[2], float at[2]) const {
+    const float mh = layout.markerHeight, gap = layout.markerGap;
+    const float top = cell[1] + (cell[3] - cell[1] - (mh + gap + t[1])) * 0.5f;
+    at[1] = row == 0 ? top : top + mh + gap;
+    marker[1] = row == 0 ? top + t[1] + gap : top;
+    const short alignment = static_cast<short>(column + 1);
+    marker[0] = alignIn(cell[0], cell[2], layout.markerWidth, alignment);
+    at[0] = alignIn(cell[0], cell[2], t[0], alignment);
 }
 
 void vxLegendItem::moveMarkerTo(float left, float top) {

@@ -80,6 +80,12 @@ private:
     bool hasText() const;
     // The text's extent (its turned box), 0 without a text.
     void getTextSize(float size[2]);
+    // The top left corners of marker and text in the cell, `t` the text's
+    // size, by the column or the row of the text's place.
+    void placeBeside(const float cell[4], const Layout& layout, int column, const float t[2],
+                     float marker[2], float at[2]) const;
+    void placeAcross(const float cell[4], const Layout& layout, int row, int column,
+                     const float t[2], float marker[2], float at[2]) const;
     void moveMarkerTo(float left, float top);
     void moveTextTo(float left, float top);
     // A picture fill lies on the marker box.

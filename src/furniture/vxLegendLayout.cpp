@@ -47,6 +47,20 @@ void vxLegend::setUpBounds() {
     }
     const vxLegendItem::Layout layout = getItemLayout();
     std::vector<float> widths, heights;
+    if (!measureItems(layout, widths, heights)) return;
+    setUpColumnsWidths(widths);
+    if (!isError()) setUpRowHeights(heights);
+    if (isError()) return;
+    // Whole points, so that a legend without a border stands on them.
+    const float width = std::ceil(totalOf(columnWidthsDC, getColumnGapDC()));
+    const float height = std::ceil(totalOf(rowHeightsDC, getRowGapDC()));
+    placeItems(layout, width, height);
+    setUpBackground(width, height);
+    if (!isError()) doRecalcBounds = false;
+}
+
+bool vxLegend::measureItems(const vxLegendItem::Layout& layout, std::vector<float>& widths,
+                            std::vector<float>& heights) {
     try {
         widths.reserve(items.size());
         heights.reserve(items.size());
@@ -57,17 +71,9 @@ void vxLegend::setUpBounds() {
             heights.push_back(size[1]);
         }
     } catch (const std::bad_alloc&) {
-        return setError(vxErrRuntime::kOutOfMemory, where(L"setUpBounds"));
+        setError(vxErrRuntime::kOutOfMemory, where(L"measureItems"));
     }
-    setUpColumnsWidths(widths);
-    if (!isError()) setUpRowHeights(heights);
-    if (isError()) return;
-    // Whole points, so that a legend without a border stands on them.
-    const float width = std::ceil(totalOf(columnWidthsDC, getColumnGapDC()));
-    const float height = std::ceil(totalOf(rowHeightsDC, getRowGapDC()));
-    placeItems(layout, width, height);
-    setUpBackground(width, height);
-    if (!isError()) doRecalcBounds = false;
+    return !isError();
 }
 
 // A grid too small for all entries shows the first ones.
