@@ -53,6 +53,9 @@ public:
     void setUpStackedBars();
     // A bar that exists and whose value is not 0.
     virtual bool isDrawable(long series, long item) const;
+    // With split colours a series shows the look of its bars at or above
+    // the reference.
+    SeriesLook getSeriesLook(long series) const override;
 
     long getNumOfCategories() const { return numOfCategories; }
     float getBarWidthDC() const { return barWidthDC; }

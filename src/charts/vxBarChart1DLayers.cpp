@@ -85,6 +85,12 @@ vxBaseChart::Look vxBarChart1D::getBarLook(long s, long c) const {
     return getAreaLook(getStyleSeries(s, c), c);
 }
 
+vxBaseChart::SeriesLook vxBarChart1D::getSeriesLook(long s) const {
+    SeriesLook look = vxBaseChart::getSeriesLook(s);
+    if (splitColors) look.area = getAreaLook(2 * s, -1);
+    return look;
+}
+
 // Bars a few pixels wide, close together, are drawn with hard edges.
 bool vxBarChart1D::doUseAliasedShapes() const {
     const long nS = getNumOfChartSeries();

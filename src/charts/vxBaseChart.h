@@ -22,6 +22,7 @@ class vxAssign;
 class vxAxisItem;
 class vxDataManager;
 class vxAxisManager;
+class vxBasicSymbol;
 class vxFormatSettings;
 class vxLayerManager;
 class vxPaintOLD;
@@ -117,6 +118,19 @@ public:
         const vxPaintOLD* border = nullptr;
     };
     virtual Look getAreaLook(long series, long item) const;
+    // The look of a whole series, as a legend shows it: its areas (fill and
+    // border), its line (the stroke and its paint, as `line.stroke` and
+    // `line.border`) and its symbol. Item styles don't count; a part that
+    // draws nothing is null (vxBaseChartLooks.cpp).
+    struct SeriesLook {
+        Look area;
+        Look line;
+        const vxBasicSymbol* symbol = nullptr;
+    };
+    virtual SeriesLook getSeriesLook(long series) const;
+    // The same from a style manager alone, for a chart without a chart
+    // class; null gives an empty look.
+    static SeriesLook getSeriesLook(const vxStyleManager* styles, long series);
 
     // ---- labels --------------------------------------------------------------
     short getDefaultLabelLocation() const { return defaultLabelLocation; }

@@ -16,6 +16,11 @@ namespace {
 
 using Placement = vxChartBoxPlacement;
 
+// A legend beside the plot takes at most this share of the graph, so that
+// the plot keeps room however many entries there are; a larger legend
+// reaches out of the chart.
+constexpr float kLegendMaxShare = 2.0f / 3.0f;
+
 // The side `side` of `from` given to `to` when it lies further in (or,
 // around a fixed plot, further out) than `to`'s.
 void takeSharedSide(Placement::Side side, const float from[4], float to[4], bool outward) {
@@ -59,21 +64,25 @@ bool vxChart::setUpBoxes() {
 // one around a fixed plot). When both lie on one side they stand in one
 // band's room side by side, and the larger takes it.
 void vxChart::reserveBoxes(bool aroundFixedPlot) {
-    auto reserve = aroundFixedPlot ? &Placement::reserveOutside : &Placement::reserveInside;
+    auto reserve = [aroundFixedPlot](const vxChartBox& box, float g[4], float gap, float band[4],
+                                     float maxShare) {
+        return aroundFixedPlot ? Placement::reserveOutside(box, g, gap, band)
+                               : Placement::reserveInside(box, g, gap, band, maxShare);
+    };
     const float* gaps = titleLegendGaps;
     float before[4];
     std::copy(graphBounds, graphBounds + 4, before);
     hasTitleBand =
-        title && !title->isBoxInside() && reserve(*title, graphBounds, gaps[0], titleBand);
+        title && !title->isBoxInside() && reserve(*title, graphBounds, gaps[0], titleBand, 1.0f);
     hasLegendBand = false;
     if (!legend || legend->isBoxInside()) return;
     const Placement::Side side = Placement::sideOf(legend->getBoxLocation());
     if (hasTitleBand && side == Placement::sideOf(title->getBoxLocation())) {
-        hasLegendBand = reserve(*legend, before, gaps[1], legendBand);
+        hasLegendBand = reserve(*legend, before, gaps[1], legendBand, kLegendMaxShare);
         if (hasLegendBand) takeSharedSide(side, before, graphBounds, aroundFixedPlot);
         return;
     }
-    hasLegendBand = reserve(*legend, graphBounds, gaps[1], legendBand);
+    hasLegendBand = reserve(*legend, graphBounds, gaps[1], legendBand, kLegendMaxShare);
 }
 
 // Boxes in bands run along the plot; boxes inside stand in the inner area.

@@ -28,12 +28,14 @@ vxChartBoxPlacement::Side vxChartBoxPlacement::sideOf(short location) {
     return kNoSide;
 }
 
-bool vxChartBoxPlacement::reserveInside(const vxChartBox& box, float g[4], float gap,
-                                        float band[4]) {
+bool vxChartBoxPlacement::reserveInside(const vxChartBox& box, float g[4], float gap, float band[4],
+                                        float maxShare) {
     float size[2];
     box.getBoxSize(size);
     const Side side = sideOf(box.getBoxLocation());
     if (side == kNoSide || size[0] <= 0.0f || size[1] <= 0.0f) return false;
+    size[0] = std::min(size[0], std::round(maxShare * std::max(0.0f, g[2] - g[0])));
+    size[1] = std::min(size[1], std::round(maxShare * std::max(0.0f, g[3] - g[1])));
     std::copy(g, g + 4, band);
     switch (side) {
         case kTop:
@@ -91,7 +93,9 @@ void vxChartBoxPlacement::placeInBand(vxChartBox& box, const float band[4], cons
     box.getBoxOffsets(offsets);
     const short location = box.getBoxLocation();
     const Side side = sideOf(location);
-    float left = band[0], top = band[1];
+    // A box larger than its band reaches out of it away from the plot.
+    float left = side == kLeft ? band[2] - size[0] : band[0];
+    float top = side == kTop ? band[3] - size[1] : band[1];
     if (side == kTop || side == kBottom) {
         left = alongSpan((location - 1) % 3, size[0], plot[0], plot[2], limits[0], limits[2]);
     } else {
