@@ -58,12 +58,32 @@ const char* operatorOfVerb(short verb) {
         case kVerbLine:
             return "l ";
         case kVerbQuad:
-            return "v ";
         case kVerbCubic:
             return "c ";
         default:
             return "h ";
     }
+}
+
+// The point two thirds of the way from one point towards another: the
+// control points of the cubic that runs exactly along a quadratic.
+float twoThirds(float from, float towards) {
+    return from + (towards - from) * (2.0f / 3.0f);
+}
+
+// The points a verb writes; a quadratic from the current point
+// becomes its exact cubic, since PDF has no quadratic operator. dx, dy
+// move every point written.
+std::string verbPoints(short verb, const float* x, const float* y, const float current[2], float dx,
+                       float dy) {
+    std::string s;
+    if (verb == kVerbQuad) {
+        s += point(twoThirds(current[0], x[0]) + dx, twoThirds(current[1], y[0]) + dy);
+        s += point(twoThirds(x[1], x[0]) + dx, twoThirds(y[1], y[0]) + dy);
+        return s + point(x[1] + dx, y[1] + dy);
+    }
+    for (size_t i = 0; i < pointsOfVerb(verb); ++i) s += point(x[i] + dx, y[i] + dy);
+    return s;
 }
 
 }  // namespace
@@ -79,20 +99,24 @@ std::string vxDevicePDF::polygonPath(const Points& x, const Points& y, bool doCl
     return s;
 }
 
-// A verb whose points are missing ends the path. A quadratic segment
-// enters with its control point as the second one of a cubic whose first
-// is the current point.
+// A verb whose points are missing ends the path. The current point, which
+// a quadratic segment starts from, is the last point written, or the
+// start of the figure after a close.
 std::string vxDevicePDF::verbPath(const vxVerbs& verbs, const Points& x, const Points& y,
                                   Offset at) {
     const size_t count = numOfPoints(x, y);
     std::string s;
     size_t p = 0;
+    float current[2] = {0.0f, 0.0f}, start[2] = {0.0f, 0.0f};
     for (short verb : verbs) {
         const size_t needed = pointsOfVerb(verb);
         if (verb != kVerbClose && needed == 0) continue;
         if (p + needed > count) break;
-        for (size_t i = 0; i < needed; ++i) s += point(x[p + i] + at.dx, y[p + i] + at.dy);
-        s += operatorOfVerb(verb);
+        s += verbPoints(verb, x.data() + p, y.data() + p, current, at.dx, at.dy) +
+             operatorOfVerb(verb);
+        if (verb == kVerbMove) start[0] = x[p], start[1] = y[p];
+        current[0] = needed ? x[p + needed - 1] : start[0];
+        current[1] = needed ? y[p + needed - 1] : start[1];
         p += needed;
     }
     return s;

@@ -44,13 +44,10 @@ inline const ReaderScript kReaderScripts[] = {
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 20 110 3 40 20 5 90 0 130 60 190 110 1; gold; ; 2; black)\nCloseDrawing()\n",
      CompareWith::kBoth},
-    // The PDF writes a quadratic curve with the `v` operator, whose first
-    // control point is the current point: the curve runs closer to its
-    // start than the true quadratic that SVG and the PNG draw.
     {"quadratic-path",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 10 110 4 100 -60 190 110 1; gold; ; 2; black)\nCloseDrawing()\n",
-     CompareWith::kOnlySVG},
+     CompareWith::kBoth},
     {"symbols",
      "OpenDrawing(200; 60)\nBackground(white)\n"
      "AddSymbol(20; 30; diamond; 20; ; red)\nAddSymbol(60; 30; hollowuptriangle; 20; 1; blue)\n"
