@@ -3,6 +3,7 @@
 // the files as real readers see them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iterator>
@@ -118,6 +119,40 @@ TEST(PDFFonts, TrueTypeWidthsEqualTheLayoutsMeasure) {
                 const float layout = font.getWidth(text);
                 EXPECT_NEAR(pdfFont.getWidth(vxPDFText::codesOf(text), 11), layout, layout * 1e-5f)
                     << pdfFont.getBaseFontName();
+            }
+        }
+    }
+}
+
+// The standard fonts' widths against the layout's measure where the
+// platform has fonts of the same metrics: Times in every style to rounding,
+// and Times New Roman, whose own metrics stand close to Times', to half
+// a thousandth of the width. Symbol and ZapfDingbats read their
+// codes in their own encoding, so only ASCII text measures alike.
+TEST(PDFFonts, StandardWidthsEqualTheMeasureOfFontsWithTheSameMetrics) {
+    if (!vxFontService::get().hasFont(L"Nimbus Roman")) GTEST_SKIP() << "no URW fonts";
+    vxPDFFonts fonts;
+    const struct {
+        const wchar_t* family;
+        short styles;
+        float tolerance;
+        bool isAsciiOnly;
+    } cases[] = {{L"Times", 4, 1e-5f, false},
+                 {L"Times New Roman", 4, 5e-4f, false},
+                 {L"Symbol", 1, 1e-5f, true},
+                 {L"ZapfDingbats", 1, 1e-5f, true}};
+    for (const auto& c : cases) {
+        for (short style = 0; style < c.styles; ++style) {
+            const vxPDFFontABC& pdfFont = fonts.fontFor(c.family, style & 1, style & 2, true);
+            const vxFontOLD font(c.family, 11, style);
+            for (const std::wstring& text : kTexts) {
+                if (c.isAsciiOnly &&
+                    !std::all_of(text.begin(), text.end(), [](wchar_t ch) { return ch < 128; }))
+                    continue;
+                const float layout = font.getWidth(text);
+                EXPECT_NEAR(pdfFont.getWidth(vxPDFText::codesOf(text), 11), layout,
+                            layout * c.tolerance)
+                    << pdfFont.getBaseFontName() << " " << style;
             }
         }
     }

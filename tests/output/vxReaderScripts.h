@@ -100,6 +100,13 @@ inline const ReaderScript kReaderScripts[] = {
      "AddText(230; 110; \"Right\"; \"Liberation Sans\"; 16; italic; darkred; right; bottom)\n"
      "CloseDrawing()\n",
      CompareWith::kBoth},
+    // Times is a standard font of the PDF, placed by its own widths.
+    {"text-in-times",
+     "OpenDrawing(240; 120)\nBackground(white)\n"
+     "AddText(120; 30; \"Centred 1,234.56\"; \"Times\"; 18; plain; black; center; center)\n"
+     "AddText(230; 110; \"Right Wavy\"; \"Times\"; 18; bold + italic; navy; right; bottom)\n"
+     "CloseDrawing()\n",
+     CompareWith::kBoth},
     {"text-rotated-and-shortened",
      "OpenDrawing(240; 140)\nBackground(white)\n"
      "AddText(60; 70; \"Turned\"; \"Liberation Sans\"; 16; bold; black; center; center; 90)\n"
