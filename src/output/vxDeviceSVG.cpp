@@ -36,6 +36,7 @@ void vxDeviceSVG::open() {
     linearGradientCounter = 0;
     radialGradientCounter = 0;
     patternCounter = 0;
+    tilePatterns.clear();
     // Room for a large chart from the start: the pages of the buffer are
     // only touched as the document grows into them, while growing by copies
     // would touch every page again each time.

@@ -22,11 +22,13 @@
 //
 // SVG has no way to combine clips: every clip mode replaces the clip. A
 // clip is active from its definition up to resetClipRegion, and every
-// element written meanwhile refers to it. Patterns have no SVG form: a hatch
-// falls back to its colour at half opacity, and a texture fills an area
-// only when its picture is a gradient resource, with that gradient; lines
-// and text get nothing from a texture. Shadows are hard-edged copies; text
-// has none.
+// element written meanwhile refers to it. A hatch or a texture number is a
+// <pattern> of its tile, repeated from the drawing's origin as the raster
+// device lays it, written once and shared by every element that fills or
+// strokes with it; text takes its plain colour instead. A texture picture
+// fills an area stretched over its anchor, or with its gradient when it is
+// a gradient resource; lines and text get nothing from it. Shadows are
+// hard-edged copies; text has none.
 //
 // Pictures (drawImage) by the kind of their source: a gradient resource is
 // its gradient's definition and one filled <rect> per tile; a file is one
@@ -35,6 +37,7 @@
 // source is copied to the device. Tiles come row by row, columns inside.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -45,6 +48,7 @@
 
 namespace Velarix {
 
+class vxBasicPaint;
 class vxTexturePaintOLD;
 
 class vxGradientPaint;
@@ -151,9 +155,8 @@ private:
     std::wstring fillPart(const vxPaintOLD& paint) const;
     std::wstring textFillPart(const vxPaintOLD& paint) const;
     std::wstring strokePaintPart(const vxPaintOLD& paint) const;
-    // `isAreaFill` for the fill of a shape: a hatch at half opacity, a
-    // texture by its gradient resource.
-    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, bool isAreaFill) const;
+    enum class PaintUse { kArea, kStroke, kText };
+    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, PaintUse use) const;
     static std::wstring strokeParts(const vxStrokeOLD& stroke);
     std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
     std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;
@@ -165,14 +168,19 @@ private:
     // fills with, or null: a texture's is that of its gradient resource.
     static const vxGradientPaint* gradientOf(const vxPaintOLD& paint);
     // Writes the definition of the paint's gradient, if it has one, under
-    // the next id of its counter.
-    void writeDefinition(const vxPaintOLD& paint);
+    // the next id of its counter; with `withTiles` that of its hatch or
+    // texture number too, the first time it is used.
+    void writeDefinition(const vxPaintOLD& paint, bool withTiles = true);
     void writeLinearGradient(const vxLinearGradient& gradient);
     void writeRadialGradient(const vxRadialGradient& gradient);
     // A picture laid over its anchor, for areas filled with it; null for
     // a texture without one.
     static const vxTexturePaintOLD* anchoredPicture(const vxPaintOLD& paint);
     void writePattern(const vxTexturePaintOLD& paint);
+    // Tiles of hatches and texture numbers (vxDeviceSVGPatterns.cpp): the
+    // pattern id of a paint's tile, 0 where it has none written.
+    long tilePatternOf(const vxPaintOLD& paint) const;
+    void writeTilePattern(const vxBasicPaint& paint);
     static std::wstring gradientTail(const vxGradientPaint& gradient);
 
     // Elements (vxDeviceSVGShapes.cpp). The writers apply none of the
@@ -239,6 +247,9 @@ private:
     long linearGradientCounter = 0;
     long radialGradientCounter = 0;
     long patternCounter = 0;
+    // The pattern of each tile written, by hatch and colour or by texture
+    // number; 0 for a tile that couldn't be made.
+    std::map<std::wstring, long> tilePatterns;
 };
 
 }  // namespace Velarix

@@ -61,7 +61,7 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
                                const vxPaintOLD& paint, const float bounds[4], short hAlignment,
                                short vAlignment, float orientation) {
     if (text.empty() || drawsNothing(paint)) return;
-    writeDefinition(paint);
+    writeDefinition(paint, false);
     std::wstring rotation;
     if (isAngle(orientation)) {
         rotation = L"transform=\"rotate(" +

@@ -80,13 +80,11 @@ inline const ReaderScript kReaderScripts[] = {
      "AddOval(20; 10; 160; 100; 0.5 0.5 0.5 0.5 0.5 1 250 250 250 255 0 190 190 190 255 1)\n"
      "CloseDrawing()\n",
      CompareWith::kBoth},
-    // A hatch has no SVG form (its colour at half opacity stands in) and a
-    // texture none at all.
     {"hatch-and-texture",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddRect(10; 10; 85; 100; #3366cc; 6)\nAddRect(105; 10; 85; 100; 0 0 0; 70)\n"
      "CloseDrawing()\n",
-     CompareWith::kOnlyPDF},
+     CompareWith::kBoth},
     {"shadows",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 20 100 3 60 20 3 100 100 1; #3366cc; ; 1; #1f2d3d; ; 4 4)\n"
