@@ -13,21 +13,12 @@ constexpr size_t kReservedLength = size_t(1) << 20;
 }  // namespace
 
 vxDeviceSVG::vxDeviceSVG(const vxUserSettings* settings)
-    : vxDevice(L"vxDeviceSVG"), userSettings(settings) {}
+    : vxShapeDevice(L"vxDeviceSVG"), userSettings(settings) {}
 
 vxDeviceSVG::~vxDeviceSVG() = default;
 
-void vxDeviceSVG::addTarget(short targetType) {
-    if (targetType != kTargetClipboard && targetType != kTargetFile) return;
-    targets.add(targetType, *this);
-}
-
-long vxDeviceSVG::getNumOfTargets() const {
-    return targets.size();
-}
-
-vxWriteExternal* vxDeviceSVG::getLastTarget() const {
-    return targets.last();
+bool vxDeviceSVG::acceptsTarget(short targetType) const {
+    return targetType == kTargetClipboard || targetType == kTargetFile;
 }
 
 void vxDeviceSVG::open() {
