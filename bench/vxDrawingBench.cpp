@@ -1,6 +1,6 @@
 // A whole run of the command in-process: read a script of 1,000 mixed
 // primitives (rectangles, polygons, texts) on a 400 by 300 drawing, lay it
-// out and write it as SVG or as PNG.
+// out and write it as SVG, PNG or PDF.
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -44,6 +44,9 @@ void BM_MixedPrimitivesToSVG(benchmark::State& state) {
 void BM_MixedPrimitivesToPNG(benchmark::State& state) {
     runScript(state, "SaveAsPNGFile(\"mixed.png\"; replace)");
 }
+void BM_MixedPrimitivesToPDF(benchmark::State& state) {
+    runScript(state, "SaveAsPDFFile(\"mixed.pdf\"; replace)");
+}
 // Reading the script and building the drawing, with nothing written.
 void BM_MixedPrimitivesNoOutput(benchmark::State& state) {
     runScript(state, "");
@@ -54,3 +57,4 @@ void BM_MixedPrimitivesNoOutput(benchmark::State& state) {
 BENCHMARK(BM_MixedPrimitivesNoOutput)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_MixedPrimitivesToSVG)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_MixedPrimitivesToPNG)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_MixedPrimitivesToPDF)->Unit(benchmark::kMillisecond);

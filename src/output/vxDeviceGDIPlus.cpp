@@ -35,25 +35,9 @@ int pixelsOf(float length) {
 }  // namespace
 
 vxDeviceGDIPlus::vxDeviceGDIPlus(const vxUserSettings* settings)
-    : vxDevice(L"vxDeviceGDIPlus"), userSettings(settings) {}
+    : vxShapeDevice(L"vxDeviceGDIPlus"), userSettings(settings) {}
 
 vxDeviceGDIPlus::~vxDeviceGDIPlus() = default;
-
-void vxDeviceGDIPlus::addTarget(short targetType) {
-    if (targetType != kTargetClipboard && targetType != kTargetFile &&
-        targetType != kTargetStream) {
-        return;
-    }
-    targets.add(targetType, *this);
-}
-
-long vxDeviceGDIPlus::getNumOfTargets() const {
-    return targets.size();
-}
-
-vxWriteExternal* vxDeviceGDIPlus::getLastTarget() const {
-    return targets.last();
-}
 
 void vxDeviceGDIPlus::setUp(const vxDrawingSpecs& specs) {
     vxDevice::setUp(specs);

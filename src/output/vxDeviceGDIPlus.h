@@ -46,8 +46,7 @@
 #include "output/vxCairoFontFaces.h"
 #include "output/vxCairoPictures.h"
 #include "output/vxCairoPointers.h"
-#include "output/vxDevice.h"
-#include "output/vxDeviceTargets.h"
+#include "output/vxShapeDevice.h"
 #include "platform/vxImageEncoder.h"
 
 namespace Velarix {
@@ -58,16 +57,12 @@ class vxFontFace;
 class vxGradientPaint;
 class vxUserSettings;
 
-class vxDeviceGDIPlus : public vxDevice {
+class vxDeviceGDIPlus : public vxShapeDevice {
 public:
     explicit vxDeviceGDIPlus(const vxUserSettings* settings = nullptr);
     ~vxDeviceGDIPlus() override;
 
     short getDeviceID() const override { return kGDIPlus; }
-    // Clipboard (1), file (3) and stream (4) targets; other types make none.
-    void addTarget(short targetType) override;
-    long getNumOfTargets() const override;
-    vxWriteExternal* getLastTarget() const override;
     // The size and bitmap flag, then the antialiasing and the fractional
     // metrics of the user's rendering settings.
     void setUp(const vxDrawingSpecs& specs) override;
@@ -82,42 +77,10 @@ public:
     void setClipRegion(const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
                        const float bounds[4], short mode) override;
 
-    void drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-    void fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-
     using vxDevice::drawString2D;
     void drawString2D(const std::wstring& text, const vxFontOLD& font, const vxPaintOLD& paint,
                       const float bounds[4], short hAlignment, short vAlignment,
                       float orientation) override;
-
-    // The shadow row fills with the shadow's paint and outlines with
-    // `paint`, the centre moved by the shadow's offsets.
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
-                    short symbolType, float size, float x, float y) override;
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
-                    short symbolType, float size, float x, float y) override;
 
     // The picture placed by the image's mapping, tile by tile, through the
     // clip; an empty image draws nothing.
@@ -139,14 +102,6 @@ public:
     void dump(short depth, std::ostream& out) const override;
 
 private:
-    // What a shadow row adds to every coordinate.
-    struct Offset {
-        float dx = 0.0f;
-        float dy = 0.0f;
-    };
-    using Points = std::vector<float>;
-    static Offset offsetOf(const vxShadowOLD& shadow);
-
     // The stroke settings of the context, kept so that a shape that
     // strokes like the one before changes none of them.
     struct Pen {
@@ -201,17 +156,19 @@ private:
     void strokeShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const float bounds[4]);
     void fillShape(const vxPaintOLD& paint, const float bounds[4], short windingRule);
     void strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2, Offset offset);
+                    float x2, float y2, Offset offset) override;
     void strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                     const Points& y, Offset offset);
+                     const Points& y, Offset offset) override;
     void strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                       const Points& y, const float bounds[4], bool doClose, Offset offset);
+                       const Points& y, const float bounds[4], bool doClose,
+                       Offset offset) override;
     void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
-                     const float bounds[4], short windingRule, Offset offset);
+                     const float bounds[4], short windingRule, Offset offset) override;
     void strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const Points& x, const Points& y, const float bounds[4], Offset offset);
+                    const Points& x, const Points& y, const float bounds[4],
+                    Offset offset) override;
     void fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x, const Points& y,
-                  const float bounds[4], short windingRule, Offset offset);
+                  const float bounds[4], short windingRule, Offset offset) override;
     // Around each drawing of a shape: through the clip mask, when there is
     // one.
     void beginShape();
@@ -239,17 +196,13 @@ private:
     bool setUpTextureIndexBrush(const vxBasicPaint& paint);
     bool setUpTextureBrush(const vxPaintOLD& paint, const float bounds[4]);
 
-    // Symbols (vxDeviceGDIPlusSymbols.cpp): a fill paint of null or none
-    // skips the fill.
-    void drawSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                         const vxPaintOLD* fillPaint, short symbolType, float size, float x,
-                         float y);
-    bool drawSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
-                         float size, float x, float y);
+    // Symbols (vxDeviceGDIPlusSymbols.cpp): the centre moved by `at`.
+    void drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                      const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
+                      Offset at) override;
     void addSymbolOutline(short shape, float size, float x, float y);
 
     const vxUserSettings* userSettings;  // not owned
-    vxDeviceTargets targets;
     // The route of the current run, fixed when the device opens.
     bool isBitmapRoute = false;
     int pixelWidth = 0;

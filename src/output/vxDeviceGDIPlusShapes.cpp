@@ -7,6 +7,7 @@
 
 #include "graphics/vxCombinedStroke.h"
 #include "graphics/vxPaintOLD.h"
+#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxShadowOLD.h"
 #include "graphics/vxStrokeOLD.h"
 #include "output/vxDeviceGDIPlus.h"
@@ -15,37 +16,13 @@ namespace Velarix {
 
 namespace {
 
-constexpr short kVerbClose = 1;
-constexpr short kVerbMove = 2;
-constexpr short kVerbLine = 3;
-constexpr short kVerbQuad = 4;
-constexpr short kVerbCubic = 5;
-
-size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
-    return std::min(x.size(), y.size());
-}
-
-size_t pointsOfVerb(short verb) {
-    switch (verb) {
-        case kVerbMove:
-        case kVerbLine:
-            return 1;
-        case kVerbQuad:
-            return 2;
-        case kVerbCubic:
-            return 3;
-        default:
-            return 0;
-    }
-}
-
 // The box of the points moved by the offsets, for a gradient along lines,
 // which come without bounds.
 void boundsOf(const std::vector<float>& x, const std::vector<float>& y, float dx, float dy,
               float bounds[4]) {
     bounds[0] = bounds[1] = FLT_MAX;
     bounds[2] = bounds[3] = -FLT_MAX;
-    for (size_t i = 0; i < numOfPoints(x, y); ++i) {
+    for (size_t i = 0; i < vxShapeDevice::numOfPoints(x, y); ++i) {
         bounds[0] = std::min(bounds[0], x[i] + dx);
         bounds[1] = std::min(bounds[1], y[i] + dy);
         bounds[2] = std::max(bounds[2], x[i] + dx);
@@ -112,16 +89,16 @@ void vxDeviceGDIPlus::addPath(const vxVerbs& verbs, const Points& x, const Point
         const size_t needed = pointsOfVerb(verb);
         if (p + needed > count) break;
         switch (verb) {
-            case kVerbClose:
+            case vxPath2DOLD::kClose:
                 cairo_close_path(c);
                 break;
-            case kVerbMove:
+            case vxPath2DOLD::kMove:
                 cairo_move_to(c, px(p), py(p));
                 break;
-            case kVerbLine:
+            case vxPath2DOLD::kLine:
                 cairo_line_to(c, px(p), py(p));
                 break;
-            case kVerbQuad: {
+            case vxPath2DOLD::kQuad: {
                 double x0 = px(p), y0 = py(p);
                 if (cairo_has_current_point(c)) cairo_get_current_point(c, &x0, &y0);
                 const double qx = px(p), qy = py(p), ex = px(p + 1), ey = py(p + 1);
@@ -129,7 +106,7 @@ void vxDeviceGDIPlus::addPath(const vxVerbs& verbs, const Points& x, const Point
                                ex + 2.0 / 3.0 * (qx - ex), ey + 2.0 / 3.0 * (qy - ey), ex, ey);
                 break;
             }
-            case kVerbCubic:
+            case vxPath2DOLD::kCubic:
                 cairo_curve_to(c, px(p), py(p), px(p + 1), py(p + 1), px(p + 2), py(p + 2));
                 break;
             default:
@@ -275,82 +252,6 @@ void vxDeviceGDIPlus::fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, co
     addPath(verbs, x, y, offset);
     fillShape(paint, bounds, windingRule);
     checkStatus(L"fillPath2D");
-}
-
-// ---- the device's rows ----------------------------------------------------
-
-vxDeviceGDIPlus::Offset vxDeviceGDIPlus::offsetOf(const vxShadowOLD& shadow) {
-    return Offset{shadow.getXOffset(), shadow.getYOffset()};
-}
-
-void vxDeviceGDIPlus::drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1,
-                                 float y1, float x2, float y2) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLine(stroke, *paint, x1, y1, x2, y2, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1,
-                                 float y1, float x2, float y2) {
-    strokeLine(stroke, paint, x1, y1, x2, y2, Offset{});
-}
-
-void vxDeviceGDIPlus::drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                      const vxPoints& x, const vxPoints& y) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLines(stroke, *paint, x, y, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                      const vxPoints& x, const vxPoints& y) {
-    strokeLines(stroke, paint, x, y, Offset{});
-}
-
-void vxDeviceGDIPlus::drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                    const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                    bool doClose) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePolygon(stroke, *paint, x, y, bounds, doClose, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                    const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                    bool doClose) {
-    strokePolygon(stroke, paint, x, y, bounds, doClose, Offset{});
-}
-
-void vxDeviceGDIPlus::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                                    const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPolygon(*paint, x, y, bounds, windingRule, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                                    const float bounds[4], short windingRule) {
-    fillPolygon(paint, x, y, bounds, windingRule, Offset{});
-}
-
-void vxDeviceGDIPlus::drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                 const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                                 const float bounds[4]) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePath(stroke, *paint, verbs, x, y, bounds, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                 const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                                 const float bounds[4]) {
-    strokePath(stroke, paint, verbs, x, y, bounds, Offset{});
-}
-
-void vxDeviceGDIPlus::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                                 const vxPoints& y, const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPath(*paint, verbs, x, y, bounds, windingRule, offsetOf(shadow));
-}
-
-void vxDeviceGDIPlus::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                                 const vxPoints& y, const float bounds[4], short windingRule) {
-    fillPath(paint, verbs, x, y, bounds, windingRule, Offset{});
 }
 
 }  // namespace Velarix

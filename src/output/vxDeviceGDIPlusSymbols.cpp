@@ -25,25 +25,14 @@ constexpr float kKnobSize = 5.0f;
 
 }  // namespace
 
-void vxDeviceGDIPlus::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                 const vxShadowOLD& shadow, short symbolType, float size, float x,
-                                 float y) {
-    drawSymbolShape(stroke, paint, shadow.getPaint(), symbolType, size, x + shadow.getXOffset(),
-                    y + shadow.getYOffset());
-}
-
-void vxDeviceGDIPlus::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                 const vxPaintOLD& fillPaint, short symbolType, float size, float x,
-                                 float y) {
-    drawSymbolShape(stroke, paint, &fillPaint, symbolType, size, x, y);
-}
-
 // Types 2 to 6 are filled and then outlined, 8 to 12 only outlined; the
-// marks made of lines are left to drawSymbolLines.
-void vxDeviceGDIPlus::drawSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                      const vxPaintOLD* fillPaint, short symbolType, float size,
-                                      float x, float y) {
-    if (!isDrawing() || drawSymbolLines(stroke, paint, symbolType, size, x, y)) return;
+// marks made of lines are lines.
+void vxDeviceGDIPlus::drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                                   const vxPaintOLD* fillPaint, short symbolType, float size,
+                                   float x, float y, Offset at) {
+    x += at.dx;
+    y += at.dy;
+    if (!isDrawing() || strokeSymbolLines(stroke, paint, symbolType, size, x, y, Offset{})) return;
     const bool isFilled = symbolType >= kCircle && symbolType <= kTriangleUp;
     const bool isOutline = symbolType >= kCircle + 6 && symbolType <= kTriangleUp + 6;
     if (!isFilled && !isOutline) return;
@@ -59,44 +48,6 @@ void vxDeviceGDIPlus::drawSymbolShape(const vxStrokeOLD& stroke, const vxPaintOL
         strokeShape(stroke, paint, bounds);
     }
     checkStatus(L"drawSymbol");
-}
-
-// Cross, plus, bars and ticks; false for the other types.
-bool vxDeviceGDIPlus::drawSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                      short symbolType, float size, float x, float y) {
-    const float l = x - size / 2.0f, r = l + size;
-    const float t = y - size / 2.0f, b = t + size;
-    const Offset none;
-    switch (symbolType) {
-        case 1:
-            strokeLine(stroke, paint, l, t, r, b, none);
-            strokeLine(stroke, paint, r, t, l, b, none);
-            return true;
-        case 7:
-            strokeLine(stroke, paint, l, y, r, y, none);
-            strokeLine(stroke, paint, x, t, x, b, none);
-            return true;
-        case 13:
-            strokeLine(stroke, paint, l, y, r, y, none);
-            return true;
-        case 14:
-            strokeLine(stroke, paint, x, t, x, b, none);
-            return true;
-        case 15:
-            strokeLine(stroke, paint, x - size, y, x, y, none);
-            return true;
-        case 16:
-            strokeLine(stroke, paint, x, y, x + size, y, none);
-            return true;
-        case 17:
-            strokeLine(stroke, paint, x, y - size, x, y, none);
-            return true;
-        case 18:
-            strokeLine(stroke, paint, x, y, x, y + size, none);
-            return true;
-        default:
-            return false;
-    }
 }
 
 // The outline of a shape as a new path: the circle is the ellipse of its

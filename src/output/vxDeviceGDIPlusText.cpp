@@ -13,7 +13,6 @@ namespace Velarix {
 
 namespace {
 
-constexpr wchar_t kLineBreak = 13;
 constexpr char32_t kReplacement = 0xFFFD;
 constexpr short kAlignCenter = 2;
 constexpr short kAlignRight = 3;
@@ -36,18 +35,6 @@ char32_t codePointAt(const std::wstring& text, size_t& i) {
     }
     if ((c >= 0xD800 && c <= 0xDFFF) || c >= 0x110000) return kReplacement;
     return c;
-}
-
-std::vector<std::wstring> splitLines(const std::wstring& text) {
-    std::vector<std::wstring> lines(1);
-    for (wchar_t c : text) {
-        if (c == kLineBreak) {
-            lines.emplace_back();
-        } else {
-            lines.back() += c;
-        }
-    }
-    return lines;
 }
 
 // A font that only has a symbol encoding keeps the glyphs of the codes
@@ -95,7 +82,7 @@ void vxDeviceGDIPlus::drawString2D(const std::wstring& text, const vxFontOLD& fo
     }
     const float lineHeight = font.getLineHeight();
     double baseline = bounds[1] + lineHeight - font.getDescent();
-    for (const std::wstring& line : splitLines(text)) {
+    for (const std::wstring& line : linesOf(text)) {
         const bool isAligned = hAlignment == kAlignCenter || hAlignment == kAlignRight;
         const double width =
             isAligned || font.isUnderline() ? lineWidth(*entry.face, line, size) : 0.0;

@@ -14,25 +14,11 @@
 namespace Velarix {
 
 vxDevicePDF::vxDevicePDF(const vxUserSettings* settings)
-    : vxDevice(L"vxDevicePDF"), userSettings(settings), fonts(std::make_unique<vxPDFFonts>()) {}
+    : vxShapeDevice(L"vxDevicePDF"),
+      userSettings(settings),
+      fonts(std::make_unique<vxPDFFonts>()) {}
 
 vxDevicePDF::~vxDevicePDF() = default;
-
-void vxDevicePDF::addTarget(short targetType) {
-    if (targetType != kTargetClipboard && targetType != kTargetFile &&
-        targetType != kTargetStream) {
-        return;
-    }
-    targets.add(targetType, *this);
-}
-
-long vxDevicePDF::getNumOfTargets() const {
-    return targets.size();
-}
-
-vxWriteExternal* vxDevicePDF::getLastTarget() const {
-    return targets.last();
-}
 
 void vxDevicePDF::setTitle(const std::wstring& text) {
     if (!text.empty()) title = text;

@@ -46,9 +46,8 @@
 #include <string>
 #include <vector>
 
-#include "output/vxDevice.h"
-#include "output/vxDeviceTargets.h"
 #include "output/vxPDFResources.h"
+#include "output/vxShapeDevice.h"
 
 namespace Velarix {
 
@@ -62,7 +61,7 @@ class vxPDFFonts;
 class vxTexturePaintOLD;
 class vxUserSettings;
 
-class vxDevicePDF : public vxDevice {
+class vxDevicePDF : public vxShapeDevice {
 public:
     // Open actions of the catalog: fit the page, fit its width, or 100 %;
     // a positive code is a zoom in percent.
@@ -73,10 +72,6 @@ public:
     ~vxDevicePDF() override;
 
     short getDeviceID() const override { return kPDF; }
-    // Clipboard (1), file (3) and stream (4) targets; other types make none.
-    void addTarget(short targetType) override;
-    long getNumOfTargets() const override;
-    vxWriteExternal* getLastTarget() const override;
     // Starts the content and takes the moment of the info record's dates.
     void open() override;
     // Writes the file and hands it to every target.
@@ -117,31 +112,6 @@ public:
     void setClipRegion(const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
                        const float bounds[4], short mode) override;
 
-    void drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-    void fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-
     using vxDevice::drawString2D;
     // Lines split at carriage returns; the first baseline at the top of the
     // bounds plus the line height minus the descent, each further line one
@@ -150,14 +120,6 @@ public:
     void drawString2D(const std::wstring& text, const vxFontOLD& font, const vxPaintOLD& paint,
                       const float bounds[4], short hAlignment, short vAlignment,
                       float orientation) override;
-
-    // The shapes of the symbol types as on the other devices. The shadow
-    // row fills with the shadow's paint and outlines with `paint`, moved by
-    // the shadow's offsets.
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
-                    short symbolType, float size, float x, float y) override;
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
-                    short symbolType, float size, float x, float y) override;
 
     // The picture placed tile by tile by the image's mapping; a gradient
     // resource fills the tiles with its gradient. An empty image draws
@@ -171,14 +133,6 @@ public:
     void dump(short depth, std::ostream& out) const override;
 
 private:
-    // What a shadow row adds to every coordinate it writes.
-    struct Offset {
-        float dx = 0.0f;
-        float dy = 0.0f;
-    };
-    using Points = std::vector<float>;
-    static Offset offsetOf(const vxShadowOLD& shadow);
-
     // The document (vxDevicePDFDocument.cpp).
     void writeFile();
     void append(const std::string& text);
@@ -202,17 +156,17 @@ private:
 
     // The shapes after the common rules (vxDevicePDFShapes.cpp).
     void strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2, Offset at);
+                    float x2, float y2, Offset at) override;
     void strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                     const Points& y, Offset at);
+                     const Points& y, Offset at) override;
     void strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                       const Points& y, bool doClose, Offset at);
+                       const Points& y, const float bounds[4], bool doClose, Offset at) override;
     void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
-                     const float bounds[4], short windingRule, Offset at);
+                     const float bounds[4], short windingRule, Offset at) override;
     void strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const Points& x, const Points& y, Offset at);
+                    const Points& x, const Points& y, const float bounds[4], Offset at) override;
     void fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x, const Points& y,
-                  const float bounds[4], short windingRule, Offset at);
+                  const float bounds[4], short windingRule, Offset at) override;
 
     // Painting a path in its paint (vxDevicePDFPaints.cpp). `bounds` are
     // those of the shape as drawn, for gradients.
@@ -237,11 +191,10 @@ private:
     static std::string gradientFunction(const vxGradientPaint& paint);
     static std::string gradientMatrix(const vxGradientPaint& paint, const float bounds[4]);
 
-    // Symbols (vxDevicePDFShapes.cpp): a fill paint of null or none skips
-    // the fill.
-    void writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                     const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
-                     Offset at);
+    // Symbols (vxDevicePDFShapes.cpp).
+    void drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                      const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
+                      Offset at) override;
     void writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
                           float size, float x, float y, Offset at);
     static std::string circlePath(float x, float y, float r);
@@ -275,7 +228,6 @@ private:
     void writeToStream(vxWriteExternal& target);
 
     const vxUserSettings* userSettings;  // not owned
-    vxDeviceTargets targets;
     std::vector<uint8_t> file;
     std::vector<long> offsets;  // of each object by number; 0 unused
     vxPDFResources resources;

@@ -6,6 +6,7 @@
 
 #include "graphics/vxDashStyle.h"
 #include "graphics/vxPaintOLD.h"
+#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxShadowOLD.h"
 #include "graphics/vxStrokeOLD.h"
 #include "output/vxDevicePDF.h"
@@ -14,12 +15,6 @@
 namespace Velarix {
 
 namespace {
-
-constexpr short kVerbClose = 1;
-constexpr short kVerbMove = 2;
-constexpr short kVerbLine = 3;
-constexpr short kVerbQuad = 4;
-constexpr short kVerbCubic = 5;
 
 // The distance of a circle's control points from its axis points, as a
 // fraction of the radius.
@@ -33,37 +28,39 @@ std::string point(float x, float y) {
     return number(x) + number(y);
 }
 
-size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
-    return std::min(x.size(), y.size());
-}
-
-size_t pointsOfVerb(short verb) {
-    switch (verb) {
-        case kVerbMove:
-        case kVerbLine:
-            return 1;
-        case kVerbQuad:
-            return 2;
-        case kVerbCubic:
-            return 3;
-        default:
-            return 0;
-    }
-}
-
 const char* operatorOfVerb(short verb) {
     switch (verb) {
-        case kVerbMove:
+        case vxPath2DOLD::kMove:
             return "m ";
-        case kVerbLine:
+        case vxPath2DOLD::kLine:
             return "l ";
-        case kVerbQuad:
-            return "v ";
-        case kVerbCubic:
+        case vxPath2DOLD::kQuad:
+        case vxPath2DOLD::kCubic:
             return "c ";
         default:
             return "h ";
     }
+}
+
+// The point two thirds of the way from one point towards another: the
+// control points of the cubic that runs exactly along a quadratic.
+float twoThirds(float from, float towards) {
+    return from + (towards - from) * (2.0f / 3.0f);
+}
+
+// The points a verb writes; a quadratic from the current point
+// becomes its exact cubic, since PDF has no quadratic operator. dx, dy
+// move every point written.
+std::string verbPoints(short verb, const float* x, const float* y, const float current[2], float dx,
+                       float dy) {
+    std::string s;
+    if (verb == vxPath2DOLD::kQuad) {
+        s += point(twoThirds(current[0], x[0]) + dx, twoThirds(current[1], y[0]) + dy);
+        s += point(twoThirds(x[1], x[0]) + dx, twoThirds(y[1], y[0]) + dy);
+        return s + point(x[1] + dx, y[1] + dy);
+    }
+    for (size_t i = 0; i < vxShapeDevice::pointsOfVerb(verb); ++i) s += point(x[i] + dx, y[i] + dy);
+    return s;
 }
 
 }  // namespace
@@ -79,20 +76,24 @@ std::string vxDevicePDF::polygonPath(const Points& x, const Points& y, bool doCl
     return s;
 }
 
-// A verb whose points are missing ends the path. A quadratic segment
-// enters with its control point as the second one of a cubic whose first
-// is the current point.
+// A verb whose points are missing ends the path. The current point, which
+// a quadratic segment starts from, is the last point written, or the
+// start of the figure after a close.
 std::string vxDevicePDF::verbPath(const vxVerbs& verbs, const Points& x, const Points& y,
                                   Offset at) {
     const size_t count = numOfPoints(x, y);
     std::string s;
     size_t p = 0;
+    float current[2] = {0.0f, 0.0f}, start[2] = {0.0f, 0.0f};
     for (short verb : verbs) {
         const size_t needed = pointsOfVerb(verb);
-        if (verb != kVerbClose && needed == 0) continue;
+        if (verb != vxPath2DOLD::kClose && needed == 0) continue;
         if (p + needed > count) break;
-        for (size_t i = 0; i < needed; ++i) s += point(x[p + i] + at.dx, y[p + i] + at.dy);
-        s += operatorOfVerb(verb);
+        s += verbPoints(verb, x.data() + p, y.data() + p, current, at.dx, at.dy) +
+             operatorOfVerb(verb);
+        if (verb == vxPath2DOLD::kMove) start[0] = x[p], start[1] = y[p];
+        current[0] = needed ? x[p + needed - 1] : start[0];
+        current[1] = needed ? y[p + needed - 1] : start[1];
         p += needed;
     }
     return s;
@@ -181,7 +182,7 @@ void vxDevicePDF::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint
 }
 
 void vxDevicePDF::strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                                const Points& y, bool doClose, Offset at) {
+                                const Points& y, const float bounds[4], bool doClose, Offset at) {
     if (drawsNothing(stroke) || drawsNothing(paint)) return;
     const std::string path = polygonPath(x, y, doClose, at);
     if (!path.empty()) strokeWith(stroke, paint, path);
@@ -197,7 +198,8 @@ void vxDevicePDF::fillPolygon(const vxPaintOLD& paint, const Points& x, const Po
 }
 
 void vxDevicePDF::strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxVerbs& verbs, const Points& x, const Points& y, Offset at) {
+                             const vxVerbs& verbs, const Points& x, const Points& y,
+                             const float bounds[4], Offset at) {
     if (drawsNothing(stroke) || drawsNothing(paint)) return;
     const std::string path = verbPath(verbs, x, y, at);
     if (!path.empty()) strokeWith(stroke, paint, path);
@@ -212,102 +214,14 @@ void vxDevicePDF::fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const 
     if (!path.empty()) fillWith(paint, path, moved, windingRule);
 }
 
-// ---- the device's rows ----------------------------------------------------
-
-vxDevicePDF::Offset vxDevicePDF::offsetOf(const vxShadowOLD& shadow) {
-    return Offset{shadow.getXOffset(), shadow.getYOffset()};
-}
-
-void vxDevicePDF::drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1,
-                             float y1, float x2, float y2) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLine(stroke, *paint, x1, y1, x2, y2, offsetOf(shadow));
-}
-
-void vxDevicePDF::drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                             float x2, float y2) {
-    strokeLine(stroke, paint, x1, y1, x2, y2, Offset{});
-}
-
-void vxDevicePDF::drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                  const vxPoints& x, const vxPoints& y) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLines(stroke, *paint, x, y, offsetOf(shadow));
-}
-
-void vxDevicePDF::drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                  const vxPoints& x, const vxPoints& y) {
-    strokeLines(stroke, paint, x, y, Offset{});
-}
-
-void vxDevicePDF::drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                bool doClose) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePolygon(stroke, *paint, x, y, doClose, offsetOf(shadow));
-}
-
-void vxDevicePDF::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                bool doClose) {
-    strokePolygon(stroke, paint, x, y, doClose, Offset{});
-}
-
-void vxDevicePDF::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                                const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPolygon(*paint, x, y, bounds, windingRule, offsetOf(shadow));
-}
-
-void vxDevicePDF::fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                                const float bounds[4], short windingRule) {
-    fillPolygon(paint, x, y, bounds, windingRule, Offset{});
-}
-
-void vxDevicePDF::drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                             const float bounds[4]) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePath(stroke, *paint, verbs, x, y, offsetOf(shadow));
-}
-
-void vxDevicePDF::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                             const float bounds[4]) {
-    strokePath(stroke, paint, verbs, x, y, Offset{});
-}
-
-void vxDevicePDF::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                             const vxPoints& y, const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPath(*paint, verbs, x, y, bounds, windingRule, offsetOf(shadow));
-}
-
-void vxDevicePDF::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                             const vxPoints& y, const float bounds[4], short windingRule) {
-    fillPath(paint, verbs, x, y, bounds, windingRule, Offset{});
-}
-
 // ---- symbols --------------------------------------------------------------
-
-void vxDevicePDF::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxShadowOLD& shadow, short symbolType, float size, float x,
-                             float y) {
-    writeSymbol(stroke, paint, shadow.getPaint(), symbolType, size, x, y, offsetOf(shadow));
-}
-
-void vxDevicePDF::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxPaintOLD& fillPaint, short symbolType, float size, float x,
-                             float y) {
-    writeSymbol(stroke, paint, &fillPaint, symbolType, size, x, y, Offset{});
-}
 
 // Circles, squares, diamonds and triangles: types 2 to 6 filled and then
 // outlined, types 8 to 12 only outlined; the other types are lines. A
 // size not above 0 draws nothing.
-void vxDevicePDF::writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                              const vxPaintOLD* fillPaint, short symbolType, float size, float x,
-                              float y, Offset at) {
+void vxDevicePDF::drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                               const vxPaintOLD* fillPaint, short symbolType, float size, float x,
+                               float y, Offset at) {
     if (!(size > 0.0f)) return;
     const bool isFilled = symbolType >= 2 && symbolType <= 6;
     const bool isOutline = symbolType >= 8 && symbolType <= 12;
@@ -326,39 +240,11 @@ void vxDevicePDF::writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint
     if (!drawsNothing(stroke) && !drawsNothing(paint)) strokeWith(stroke, paint, path);
 }
 
-// The marks made of lines: cross, plus, bars and ticks.
+// The marks made of lines: cross, plus, bars and ticks, in one path.
 void vxDevicePDF::writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                                    short symbolType, float size, float x, float y, Offset at) {
-    const float l = x - size / 2.0f, r = l + size;
-    const float t = y - size / 2.0f, b = t + size;
-    switch (symbolType) {
-        case 1:
-            strokeLines(stroke, paint, {l, r, r, l}, {t, b, t, b}, at);
-            break;
-        case 7:
-            strokeLines(stroke, paint, {l, r, x, x}, {y, y, t, b}, at);
-            break;
-        case 13:
-            strokeLine(stroke, paint, l, y, r, y, at);
-            break;
-        case 14:
-            strokeLine(stroke, paint, x, t, x, b, at);
-            break;
-        case 15:
-            strokeLine(stroke, paint, x - size, y, x, y, at);
-            break;
-        case 16:
-            strokeLine(stroke, paint, x, y, x + size, y, at);
-            break;
-        case 17:
-            strokeLine(stroke, paint, x, y - size, x, y, at);
-            break;
-        case 18:
-            strokeLine(stroke, paint, x, y, x, y + size, at);
-            break;
-        default:
-            break;
-    }
+    Points lx, ly;
+    if (symbolLines(symbolType, size, x, y, lx, ly)) strokeLines(stroke, paint, lx, ly, at);
 }
 
 }  // namespace Velarix

@@ -16,24 +16,11 @@ namespace Velarix {
 
 namespace {
 
-constexpr wchar_t kLineBreak = 13;
 constexpr short kAlignLeft = 1;
 constexpr short kAlignRight = 3;
 
 std::string number(double value) {
     return vxNumberWriter::pdf(value) + " ";
-}
-
-std::vector<std::wstring> splitLines(const std::wstring& text) {
-    std::vector<std::wstring> lines(1);
-    for (wchar_t c : text) {
-        if (c == kLineBreak) {
-            lines.emplace_back();
-        } else {
-            lines.back() += c;
-        }
-    }
-    return lines;
 }
 
 float lineX(const float bounds[4], short hAlignment, float width) {
@@ -67,7 +54,7 @@ void vxDevicePDF::drawString2D(const std::wstring& text, const vxFontOLD& font,
         std::string s = "q " + pageState + selection + colorState(*paint.getColor(), false) +
                         baselineMatrix(bounds, baseline, orientation);
         float y = 0.0f;
-        for (const std::wstring& line : splitLines(text)) {
+        for (const std::wstring& line : linesOf(text)) {
             if (!line.empty()) {
                 const std::string placed = otherLineText(line, font, bounds, hAlignment, y);
                 s += placed.empty() ? lineText(line, font, *use.font, bounds, hAlignment, y)

@@ -13,21 +13,12 @@ constexpr size_t kReservedLength = size_t(1) << 20;
 }  // namespace
 
 vxDeviceSVG::vxDeviceSVG(const vxUserSettings* settings)
-    : vxDevice(L"vxDeviceSVG"), userSettings(settings) {}
+    : vxShapeDevice(L"vxDeviceSVG"), userSettings(settings) {}
 
 vxDeviceSVG::~vxDeviceSVG() = default;
 
-void vxDeviceSVG::addTarget(short targetType) {
-    if (targetType != kTargetClipboard && targetType != kTargetFile) return;
-    targets.add(targetType, *this);
-}
-
-long vxDeviceSVG::getNumOfTargets() const {
-    return targets.size();
-}
-
-vxWriteExternal* vxDeviceSVG::getLastTarget() const {
-    return targets.last();
+bool vxDeviceSVG::acceptsTarget(short targetType) const {
+    return targetType == kTargetClipboard || targetType == kTargetFile;
 }
 
 void vxDeviceSVG::open() {
@@ -36,6 +27,7 @@ void vxDeviceSVG::open() {
     linearGradientCounter = 0;
     radialGradientCounter = 0;
     patternCounter = 0;
+    tilePatterns.clear();
     // Room for a large chart from the start: the pages of the buffer are
     // only touched as the document grows into them, while growing by copies
     // would touch every page again each time.

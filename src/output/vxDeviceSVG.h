@@ -22,11 +22,13 @@
 //
 // SVG has no way to combine clips: every clip mode replaces the clip. A
 // clip is active from its definition up to resetClipRegion, and every
-// element written meanwhile refers to it. Patterns have no SVG form: a hatch
-// falls back to its colour at half opacity, and a texture fills an area
-// only when its picture is a gradient resource, with that gradient; lines
-// and text get nothing from a texture. Shadows are hard-edged copies; text
-// has none.
+// element written meanwhile refers to it. A hatch or a texture number is a
+// <pattern> of its tile, repeated from the drawing's origin as the raster
+// device lays it, written once and shared by every element that fills or
+// strokes with it; text takes its plain colour instead. A texture picture
+// fills an area stretched over its anchor, or with its gradient when it is
+// a gradient resource; lines and text get nothing from it. Shadows are
+// hard-edged copies; text has none.
 //
 // Pictures (drawImage) by the kind of their source: a gradient resource is
 // its gradient's definition and one filled <rect> per tile; a file is one
@@ -35,16 +37,17 @@
 // source is copied to the device. Tiles come row by row, columns inside.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "output/vxDevice.h"
-#include "output/vxDeviceTargets.h"
+#include "output/vxShapeDevice.h"
 
 namespace Velarix {
 
+class vxBasicPaint;
 class vxTexturePaintOLD;
 
 class vxGradientPaint;
@@ -53,16 +56,12 @@ class vxLinearGradient;
 class vxRadialGradient;
 class vxUserSettings;
 
-class vxDeviceSVG : public vxDevice {
+class vxDeviceSVG : public vxShapeDevice {
 public:
     explicit vxDeviceSVG(const vxUserSettings* settings = nullptr);
     ~vxDeviceSVG() override;
 
     short getDeviceID() const override { return kSVG; }
-    // Clipboard (1) and file (3) targets; other types make none.
-    void addTarget(short targetType) override;
-    long getNumOfTargets() const override;
-    vxWriteExternal* getLastTarget() const override;
     void open() override;
     void close() override;
 
@@ -85,31 +84,6 @@ public:
     void setClipRegion(const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
                        const float bounds[4], short mode) override;
 
-    void drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                         const vxPoints& y) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPoints& x,
-                       const vxPoints& y, const float bounds[4], bool doClose) override;
-    void fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                       const float bounds[4], short windingRule) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const vxPoints& x, const vxPoints& y, const float bounds[4]) override;
-    void fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-    void fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                    const vxPoints& y, const float bounds[4], short windingRule) override;
-
     using vxDevice::drawString2D;
     // One <text> element per line of the text, lines split at carriage
     // returns. The first baseline lies at the top of the bounds plus the
@@ -119,16 +93,6 @@ public:
                       const float bounds[4], short hAlignment, short vAlignment,
                       float orientation) override;
 
-    // The shapes of the symbol types, the fill before the outline. The
-    // shadow row takes the shadow's paint for the fill and `paint` (the
-    // caller gives the shadow's, or a none paint for no outline) for the
-    // outline, and moves every coordinate by the shadow's offsets as it is
-    // written. A size not above 0 draws nothing.
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxShadowOLD& shadow,
-                    short symbolType, float size, float x, float y) override;
-    void drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxPaintOLD& fillPaint,
-                    short symbolType, float size, float x, float y) override;
-
     void drawImage(const vxImage& image) override;
 
     long getNumOfStreams() const override { return 0; }
@@ -137,23 +101,14 @@ public:
     void dump(short depth, std::ostream& out) const override;
 
 private:
-    // What a shadow row adds to every coordinate it prints.
-    struct Offset {
-        float dx = 0.0f;
-        float dy = 0.0f;
-    };
-    using Points = std::vector<float>;
-    static Offset offsetOf(const vxShadowOLD& shadow);
-
     // Style strings (vxDeviceSVGStyle.cpp). Each part ends with "; " and
     // each style with a blank after its closing quote.
     std::wstring clipPart() const;
     std::wstring fillPart(const vxPaintOLD& paint) const;
     std::wstring textFillPart(const vxPaintOLD& paint) const;
     std::wstring strokePaintPart(const vxPaintOLD& paint) const;
-    // `isAreaFill` for the fill of a shape: a hatch at half opacity, a
-    // texture by its gradient resource.
-    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, bool isAreaFill) const;
+    enum class PaintUse { kArea, kStroke, kText };
+    std::wstring paintPart(const wchar_t* property, const vxPaintOLD& paint, PaintUse use) const;
     static std::wstring strokeParts(const vxStrokeOLD& stroke);
     std::wstring strokeStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) const;
     std::wstring fillStyle(const vxPaintOLD& paint, short windingRule) const;
@@ -165,14 +120,19 @@ private:
     // fills with, or null: a texture's is that of its gradient resource.
     static const vxGradientPaint* gradientOf(const vxPaintOLD& paint);
     // Writes the definition of the paint's gradient, if it has one, under
-    // the next id of its counter.
-    void writeDefinition(const vxPaintOLD& paint);
+    // the next id of its counter; with `withTiles` that of its hatch or
+    // texture number too, the first time it is used.
+    void writeDefinition(const vxPaintOLD& paint, bool withTiles = true);
     void writeLinearGradient(const vxLinearGradient& gradient);
     void writeRadialGradient(const vxRadialGradient& gradient);
     // A picture laid over its anchor, for areas filled with it; null for
     // a texture without one.
     static const vxTexturePaintOLD* anchoredPicture(const vxPaintOLD& paint);
     void writePattern(const vxTexturePaintOLD& paint);
+    // Tiles of hatches and texture numbers (vxDeviceSVGPatterns.cpp): the
+    // pattern id of a paint's tile, 0 where it has none written.
+    long tilePatternOf(const vxPaintOLD& paint) const;
+    void writeTilePattern(const vxBasicPaint& paint);
     static std::wstring gradientTail(const vxGradientPaint& gradient);
 
     // Elements (vxDeviceSVGShapes.cpp). The writers apply none of the
@@ -191,25 +151,24 @@ private:
     // One stroked element of each kind, with its definition, after the
     // common rules.
     void strokeLine(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                    float x2, float y2, Offset at);
+                    float x2, float y2, Offset at) override;
     void strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                     const Points& y, Offset at);
+                     const Points& y, Offset at) override;
     void strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                       const Points& y, bool doClose, Offset at);
-    void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y, short windingRule,
-                     Offset at);
+                       const Points& y, const float bounds[4], bool doClose, Offset at) override;
+    void fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
+                     const float bounds[4], short windingRule, Offset at) override;
     void strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const vxVerbs& verbs,
-                    const Points& x, const Points& y, Offset at);
+                    const Points& x, const Points& y, const float bounds[4], Offset at) override;
     void fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x, const Points& y,
-                  short windingRule, Offset at);
+                  const float bounds[4], short windingRule, Offset at) override;
 
-    // Symbols (vxDeviceSVGShapes.cpp): a fill paint of null or none skips
-    // the fill, a stroke or paint that draws nothing skips the outline.
-    void writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                     const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
-                     Offset at);
-    void writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint, short symbolType,
-                          float size, float x, float y, Offset at);
+    // Symbols (vxDeviceSVGShapes.cpp), the fill before the outline: a
+    // stroke or paint that draws nothing skips the outline. A size not
+    // above 0 draws nothing.
+    void drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                      const vxPaintOLD* fillPaint, short symbolType, float size, float x, float y,
+                      Offset at) override;
     bool writeSymbolShape(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
                           const vxPaintOLD* fillPaint, short symbolType, float size, float x,
                           float y, Offset at);
@@ -226,10 +185,11 @@ private:
     // The text of one line as character references (vxDeviceSVGText.cpp).
     static std::wstring characterReferences(const std::wstring& line);
 
+    // Clipboard (1) and file (3) targets only.
+    bool acceptsTarget(short targetType) const override;
     void writeTargets();
 
     const vxUserSettings* userSettings;  // not owned
-    vxDeviceTargets targets;
     std::wstring document;
     std::wstring title;
     std::wstring description;
@@ -239,6 +199,9 @@ private:
     long linearGradientCounter = 0;
     long radialGradientCounter = 0;
     long patternCounter = 0;
+    // The pattern of each tile written, by hatch and colour or by texture
+    // number; 0 for a tile that couldn't be made.
+    std::map<std::wstring, long> tilePatterns;
 };
 
 }  // namespace Velarix

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "graphics/vxPaintOLD.h"
+#include "graphics/vxPath2DOLD.h"
 #include "graphics/vxShadowOLD.h"
 #include "graphics/vxStrokeOLD.h"
 #include "output/vxDeviceSVG.h"
@@ -34,34 +35,9 @@ void appendAttribute(std::wstring& out, const wchar_t* name, double value) {
     out += L'"';
 }
 
-size_t numOfPoints(const std::vector<float>& x, const std::vector<float>& y) {
-    return std::min(x.size(), y.size());
-}
-
-constexpr short kVerbClose = 1;
-constexpr short kVerbMove = 2;
-constexpr short kVerbLine = 3;
-constexpr short kVerbQuad = 4;
-constexpr short kVerbCubic = 5;
-
 // A line segment of a path goes straight up or across when it moves by
 // less than this in x or in y.
 constexpr double kStraight = 1e-10;
-
-// The points a verb takes from the point lists.
-size_t pointsOfVerb(short verb) {
-    switch (verb) {
-        case kVerbMove:
-        case kVerbLine:
-            return 1;
-        case kVerbQuad:
-            return 2;
-        case kVerbCubic:
-            return 3;
-        default:
-            return 0;
-    }
-}
 
 }  // namespace
 
@@ -142,18 +118,18 @@ void vxDeviceSVG::appendPathData(std::wstring& d, const vxVerbs& verbs, const Po
         const size_t needed = pointsOfVerb(verb);
         if (p + needed > count) break;
         switch (verb) {
-            case kVerbClose:
+            case vxPath2DOLD::kClose:
                 d += L"Z";
                 lastX = startX;
                 lastY = startY;
                 break;
-            case kVerbMove:
+            case vxPath2DOLD::kMove:
                 d += L"M ";
                 pointAt(p);
                 startX = x[p];
                 startY = y[p];
                 break;
-            case kVerbLine:
+            case vxPath2DOLD::kLine:
                 if (std::fabs(static_cast<double>(x[p]) - lastX) < kStraight) {
                     d += L"V ";
                     appendNumber(d, y[p] + at.dy);
@@ -165,12 +141,12 @@ void vxDeviceSVG::appendPathData(std::wstring& d, const vxVerbs& verbs, const Po
                     pointAt(p);
                 }
                 break;
-            case kVerbQuad:
+            case vxPath2DOLD::kQuad:
                 d += L"Q ";
                 pointAt(p);
                 pointAt(p + 1);
                 break;
-            case kVerbCubic:
+            case vxPath2DOLD::kCubic:
                 d += L"C ";
                 pointAt(p);
                 pointAt(p + 1);
@@ -204,169 +180,44 @@ void vxDeviceSVG::strokeLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint
 }
 
 void vxDeviceSVG::strokePolygon(const vxStrokeOLD& stroke, const vxPaintOLD& paint, const Points& x,
-                                const Points& y, bool doClose, Offset at) {
+                                const Points& y, const float bounds[4], bool doClose, Offset at) {
     if (drawsNothing(stroke) || drawsNothing(paint) || numOfPoints(x, y) == 0) return;
     writeDefinition(paint);
     writePoints(doClose ? L"polygon" : L"polyline", strokeStyle(stroke, paint), x, y, at);
 }
 
 void vxDeviceSVG::fillPolygon(const vxPaintOLD& paint, const Points& x, const Points& y,
-                              short windingRule, Offset at) {
+                              const float bounds[4], short windingRule, Offset at) {
     if (drawsNothing(paint) || numOfPoints(x, y) == 0) return;
     writeDefinition(paint);
     writePoints(L"polygon", fillStyle(paint, windingRule), x, y, at);
 }
 
 void vxDeviceSVG::strokePath(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxVerbs& verbs, const Points& x, const Points& y, Offset at) {
+                             const vxVerbs& verbs, const Points& x, const Points& y,
+                             const float bounds[4], Offset at) {
     if (drawsNothing(stroke) || drawsNothing(paint) || verbs.empty()) return;
     writeDefinition(paint);
     writePath(strokeStyle(stroke, paint), verbs, x, y, at);
 }
 
 void vxDeviceSVG::fillPath(const vxPaintOLD& paint, const vxVerbs& verbs, const Points& x,
-                           const Points& y, short windingRule, Offset at) {
+                           const Points& y, const float bounds[4], short windingRule, Offset at) {
     if (drawsNothing(paint) || verbs.empty()) return;
     writeDefinition(paint);
     writePath(fillStyle(paint, windingRule), verbs, x, y, at);
 }
 
-// ---- the device's rows ----------------------------------------------------
-
-vxDeviceSVG::Offset vxDeviceSVG::offsetOf(const vxShadowOLD& shadow) {
-    return Offset{shadow.getXOffset(), shadow.getYOffset()};
-}
-
-void vxDeviceSVG::drawLine2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow, float x1,
-                             float y1, float x2, float y2) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLine(stroke, *paint, x1, y1, x2, y2, offsetOf(shadow));
-}
-
-void vxDeviceSVG::drawLine2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint, float x1, float y1,
-                             float x2, float y2) {
-    strokeLine(stroke, paint, x1, y1, x2, y2, Offset{});
-}
-
-void vxDeviceSVG::drawLineArray2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                  const vxPoints& x, const vxPoints& y) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokeLines(stroke, *paint, x, y, offsetOf(shadow));
-}
-
-void vxDeviceSVG::drawLineArray2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                  const vxPoints& x, const vxPoints& y) {
-    strokeLines(stroke, paint, x, y, Offset{});
-}
-
-void vxDeviceSVG::drawPolygon2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                                const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                bool doClose) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePolygon(stroke, *paint, x, y, doClose, offsetOf(shadow));
-}
-
-void vxDeviceSVG::drawPolygon2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                const vxPoints& x, const vxPoints& y, const float bounds[4],
-                                bool doClose) {
-    strokePolygon(stroke, paint, x, y, doClose, Offset{});
-}
-
-void vxDeviceSVG::fillPolygon2D(const vxShadowOLD& shadow, const vxPoints& x, const vxPoints& y,
-                                const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPolygon(*paint, x, y, windingRule, offsetOf(shadow));
-}
-
-void vxDeviceSVG::fillPolygon2D(const vxPaintOLD& paint, const vxPoints& x, const vxPoints& y,
-                                const float bounds[4], short windingRule) {
-    fillPolygon(paint, x, y, windingRule, Offset{});
-}
-
-void vxDeviceSVG::drawPath2D(const vxStrokeOLD& stroke, const vxShadowOLD& shadow,
-                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                             const float bounds[4]) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        strokePath(stroke, *paint, verbs, x, y, offsetOf(shadow));
-}
-
-void vxDeviceSVG::drawPath2D(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxVerbs& verbs, const vxPoints& x, const vxPoints& y,
-                             const float bounds[4]) {
-    strokePath(stroke, paint, verbs, x, y, Offset{});
-}
-
-void vxDeviceSVG::fillPath2D(const vxShadowOLD& shadow, const vxVerbs& verbs, const vxPoints& x,
-                             const vxPoints& y, const float bounds[4], short windingRule) {
-    if (const vxPaintOLD* paint = shadow.getPaint())
-        fillPath(*paint, verbs, x, y, windingRule, offsetOf(shadow));
-}
-
-void vxDeviceSVG::fillPath2D(const vxPaintOLD& paint, const vxVerbs& verbs, const vxPoints& x,
-                             const vxPoints& y, const float bounds[4], short windingRule) {
-    fillPath(paint, verbs, x, y, windingRule, Offset{});
-}
-
 // ---- symbols --------------------------------------------------------------
-
-void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxShadowOLD& shadow, short symbolType, float size, float x,
-                             float y) {
-    writeSymbol(stroke, paint, shadow.getPaint(), symbolType, size, x, y, offsetOf(shadow));
-}
-
-void vxDeviceSVG::drawSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                             const vxPaintOLD& fillPaint, short symbolType, float size, float x,
-                             float y) {
-    writeSymbol(stroke, paint, &fillPaint, symbolType, size, x, y, Offset{});
-}
 
 // A mark without extent draws nothing, and neither does a negative size,
 // which would turn the shapes inside out and give a circle no valid radius.
-void vxDeviceSVG::writeSymbol(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                              const vxPaintOLD* fillPaint, short symbolType, float size, float x,
-                              float y, Offset at) {
+void vxDeviceSVG::drawSymbolAt(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
+                               const vxPaintOLD* fillPaint, short symbolType, float size, float x,
+                               float y, Offset at) {
     if (!(size > 0.0f)) return;
     if (writeSymbolShape(stroke, paint, fillPaint, symbolType, size, x, y, at)) return;
-    writeSymbolLines(stroke, paint, symbolType, size, x, y, at);
-}
-
-// The marks made of lines: cross, plus, bars and ticks. Other types draw
-// nothing here.
-void vxDeviceSVG::writeSymbolLines(const vxStrokeOLD& stroke, const vxPaintOLD& paint,
-                                   short symbolType, float size, float x, float y, Offset at) {
-    const float l = x - size / 2.0f, r = l + size;
-    const float t = y - size / 2.0f, b = t + size;
-    switch (symbolType) {
-        case 1:
-            strokeLine(stroke, paint, l, t, r, b, at);
-            strokeLine(stroke, paint, r, t, l, b, at);
-            break;
-        case 7:
-            strokeLine(stroke, paint, l, y, r, y, at);
-            strokeLine(stroke, paint, x, t, x, b, at);
-            break;
-        case 13:
-            strokeLine(stroke, paint, l, y, r, y, at);
-            break;
-        case 14:
-            strokeLine(stroke, paint, x, t, x, b, at);
-            break;
-        case 15:
-            strokeLine(stroke, paint, x - size, y, x, y, at);
-            break;
-        case 16:
-            strokeLine(stroke, paint, x, y, x + size, y, at);
-            break;
-        case 17:
-            strokeLine(stroke, paint, x, y - size, x, y, at);
-            break;
-        case 18:
-            strokeLine(stroke, paint, x, y, x, y + size, at);
-            break;
-        default:
-            break;
-    }
+    strokeSymbolLines(stroke, paint, symbolType, size, x, y, at);
 }
 
 // Circles, squares, diamonds and triangles: types 2 to 6 filled and then

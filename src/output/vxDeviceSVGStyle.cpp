@@ -83,14 +83,18 @@ std::wstring vxDeviceSVG::clipPart() const {
     return L"clip-path: url(#clipPath" + std::to_wstring(clipCounter) + L"); ";
 }
 
-// The gradients refer to their definition, written just before the element
-// under the current id; a texture does so only in the fill of an area.
+// The gradients and patterns refer to their definition, written before the
+// element; a picture is laid only in the fill of an area, and text takes
+// no pattern but its plain colour.
 std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& paint,
-                                    bool isAreaFill) const {
+                                    PaintUse use) const {
     const std::wstring name = property;
-    if (paint.getType() == vxPaintOLD::kTexture && !isAreaFill) return L"";
-    if (isAreaFill && anchoredPicture(paint)) {
+    if (paint.getType() == vxPaintOLD::kTexture && use != PaintUse::kArea) return L"";
+    if (use == PaintUse::kArea && anchoredPicture(paint)) {
         return name + L": url(#pt" + std::to_wstring(patternCounter) + L"); ";
+    }
+    if (const long tile = use == PaintUse::kText ? 0 : tilePatternOf(paint); tile > 0) {
+        return name + L": url(#pt" + std::to_wstring(tile) + L"); ";
     }
     if (const vxGradientPaint* gradient = gradientOf(paint)) {
         if (gradient->getType() == vxPaintOLD::kLinearGradient) {
@@ -99,29 +103,25 @@ std::wstring vxDeviceSVG::paintPart(const wchar_t* property, const vxPaintOLD& p
         return name + L": url(#rg" + std::to_wstring(radialGradientCounter) + L"); ";
     }
     if (paint.getType() != vxPaintOLD::kBasic) return L"";
-    const auto& basic = static_cast<const vxBasicPaint&>(paint);
-    const vxColorOLD* color = basic.getColor();
+    const vxColorOLD* color = static_cast<const vxBasicPaint&>(paint).getColor();
     if (!color) return L"";
     std::wstring s = name + L": " + color->toHashText() + L"; ";
     if (!color->isOpaque()) {
         s += name + L"-opacity: " + vxNumberWriter::generalW(color->getAlphaF()) + L"; ";
-    } else if (isAreaFill && basic.hasHatch()) {
-        // A hatch has no SVG form: its colour at half opacity stands for it.
-        s += name + L"-opacity: 0.5; ";
     }
     return s;
 }
 
 std::wstring vxDeviceSVG::fillPart(const vxPaintOLD& paint) const {
-    return paintPart(L"fill", paint, true);
+    return paintPart(L"fill", paint, PaintUse::kArea);
 }
 
 std::wstring vxDeviceSVG::textFillPart(const vxPaintOLD& paint) const {
-    return paintPart(L"fill", paint, false);
+    return paintPart(L"fill", paint, PaintUse::kText);
 }
 
 std::wstring vxDeviceSVG::strokePaintPart(const vxPaintOLD& paint) const {
-    return paintPart(L"stroke", paint, false);
+    return paintPart(L"stroke", paint, PaintUse::kStroke);
 }
 
 // Width, dash, cap and join of a basic stroke, each left out where SVG's
@@ -180,8 +180,11 @@ const vxGradientPaint* vxDeviceSVG::gradientOf(const vxPaintOLD& paint) {
     }
 }
 
-void vxDeviceSVG::writeDefinition(const vxPaintOLD& paint) {
+void vxDeviceSVG::writeDefinition(const vxPaintOLD& paint, bool withTiles) {
     if (const vxTexturePaintOLD* picture = anchoredPicture(paint)) return writePattern(*picture);
+    if (withTiles && paint.getType() == vxPaintOLD::kBasic) {
+        return writeTilePattern(static_cast<const vxBasicPaint&>(paint));
+    }
     const vxGradientPaint* gradient = gradientOf(paint);
     if (!gradient) return;
     if (gradient->getType() == vxPaintOLD::kLinearGradient) {
@@ -226,38 +229,6 @@ std::wstring vxDeviceSVG::gradientTail(const vxGradientPaint& gradient) {
              L"\" style=\"stop-color: " + gradient.getColor(i)->toHashText() + L"; \"/>\n";
     }
     return s;
-}
-
-}  // namespace Velarix
-
-namespace Velarix {
-
-const vxTexturePaintOLD* vxDeviceSVG::anchoredPicture(const vxPaintOLD& paint) {
-    if (paint.getType() != vxPaintOLD::kTexture) return nullptr;
-    const auto& texture = static_cast<const vxTexturePaintOLD&>(paint);
-    const vxImage* image = texture.getImage();
-    if (!texture.hasImage() || !image || image->getGradient() || !image->getSource())
-        return nullptr;
-    return image->getSource()->getType() == kSourceFile ? &texture : nullptr;
-}
-
-// The picture stretched over the anchor and repeated from there, as the
-// raster device lays it.
-void vxDeviceSVG::writePattern(const vxTexturePaintOLD& paint) {
-    ++patternCounter;
-    float a[4];
-    paint.getAnchorBounds(a);
-    const std::wstring w = vxNumberWriter::generalW(a[2] - a[0]);
-    const std::wstring h = vxNumberWriter::generalW(a[3] - a[1]);
-    std::wstring s = L"<defs>\n<pattern id=\"pt" + std::to_wstring(patternCounter) +
-                     L"\" patternUnits=\"userSpaceOnUse\"\n";
-    s += L"\tx=\"" + vxNumberWriter::generalW(a[0]) + L"\" y=\"" + vxNumberWriter::generalW(a[1]) +
-         L"\" width=\"" + w + L"\" height=\"" + h + L"\">\n";
-    s += L"<image xlink:href=\"" + hrefOf(paint.getImage()->getSource()->getName()) +
-         L"\" x=\"0\" y=\"0\" width=\"" + w + L"\" height=\"" + h +
-         L"\" preserveAspectRatio=\"none\"/>\n";
-    s += L"</pattern>\n</defs>\n";
-    document += s;
 }
 
 }  // namespace Velarix

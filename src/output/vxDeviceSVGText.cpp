@@ -13,23 +13,10 @@ namespace Velarix {
 
 namespace {
 
-constexpr wchar_t kLineBreak = 13;
 constexpr double kDegreesPerRadian = 57.29578;
 
 constexpr short kAlignCenter = 2;
 constexpr short kAlignRight = 3;
-
-std::vector<std::wstring> splitLines(const std::wstring& text) {
-    std::vector<std::wstring> lines(1);
-    for (wchar_t c : text) {
-        if (c == kLineBreak) {
-            lines.emplace_back();
-        } else {
-            lines.back() += c;
-        }
-    }
-    return lines;
-}
 
 float anchorX(const float bounds[4], short hAlignment) {
     if (hAlignment == kAlignCenter) return (bounds[0] + bounds[2]) / 2.0f;
@@ -61,7 +48,7 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
                                const vxPaintOLD& paint, const float bounds[4], short hAlignment,
                                short vAlignment, float orientation) {
     if (text.empty() || drawsNothing(paint)) return;
-    writeDefinition(paint);
+    writeDefinition(paint, false);
     std::wstring rotation;
     if (isAngle(orientation)) {
         rotation = L"transform=\"rotate(" +
@@ -79,7 +66,7 @@ void vxDeviceSVG::drawString2D(const std::wstring& text, const vxFontOLD& font,
     float baseline = bounds[1] + lineHeight - font.getDescent();
     std::wstring s;
     if (!clip.empty()) s += L"<g style=\"" + clip + L"\" >\n";
-    for (const std::wstring& line : splitLines(text)) {
+    for (const std::wstring& line : linesOf(text)) {
         s += L"<text x=\"" + x + L"\" y=\"" + vxNumberWriter::generalW(baseline) + L"\" " +
              rotation + L"\n";
         s += style + L">\n";

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "output/vxPDFFontTables.h"
+#include "output/vxPDFFontWidthTables.h"
 
 namespace Velarix {
 
@@ -32,12 +33,12 @@ const vxPDFStandardFont kStandardFonts[kNumOfStandardFonts] = {
     {"helveticaI", "Helvetica-Oblique", {-169, -217, 1010, 883}, kHelveticaWidths, false},
     {"helveticaBI", "Helvetica-BoldOblique", {-200, -218, 996, 921}, kHelveticaBoldWidths, false},
     // Times-Roman keeps the box of plain Helvetica on purpose.
-    {"times", "Times-Roman", {-168, -218, 1000, 898}, nullptr, false},
-    {"timesB", "Times-Bold", {-113, -250, 749, 801}, nullptr, false},
-    {"timesI", "Times-Italic", {-28, -250, 742, 805}, nullptr, false},
-    {"timesBI", "Times-BoldItalic", {-56, -250, 868, 801}, nullptr, false},
-    {"symbol", "Symbol", {-180, -293, 1090, 1010}, nullptr, true},
-    {"zapfdingbats", "ZapfDingbats", {-1, -143, 981, 820}, nullptr, true},
+    {"times", "Times-Roman", {-168, -218, 1000, 898}, kTimesRomanWidths, false},
+    {"timesB", "Times-Bold", {-113, -250, 749, 801}, kTimesBoldWidths, false},
+    {"timesI", "Times-Italic", {-28, -250, 742, 805}, kTimesItalicWidths, false},
+    {"timesBI", "Times-BoldItalic", {-56, -250, 868, 801}, kTimesBoldItalicWidths, false},
+    {"symbol", "Symbol", {-180, -293, 1090, 1010}, kSymbolWidths, true},
+    {"zapfdingbats", "ZapfDingbats", {-1, -143, 981, 820}, kZapfDingbatsWidths, true},
 };
 
 const vxPDFStandardFont* vxFindStandardFont(const std::string& key) {

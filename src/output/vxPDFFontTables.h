@@ -10,9 +10,7 @@ struct vxPDFStandardFont {
     const char* key;
     const char* name;
     short box[4];
-    // Codes 32 to 255 at index code - 32, in 1/1000 of the size; null where
-    // the widths aren't held here, and the text is then placed by the
-    // layout's measure.
+    // Codes 32 to 255 at index code - 32, in 1/1000 of the size.
     const short* widths;
     // Whether the font's own encoding stands (Symbol, ZapfDingbats) instead
     // of Windows-1252.

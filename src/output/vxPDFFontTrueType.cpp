@@ -32,11 +32,9 @@ std::string whole(double value) {
 }  // namespace
 
 vxPDFFontTrueType::vxPDFFontTrueType(std::shared_ptr<const vxTrueTypeFile> file, bool isBold,
-                                     bool isItalic, int boldExtra, bool isEmbeddingIntended,
+                                     bool isItalic, int boldExtra,
                                      std::shared_ptr<const std::vector<uint8_t>> program)
-    : mFile(std::move(file)),
-      mProgram(std::move(program)),
-      mIsEmbeddingIntended(isEmbeddingIntended) {
+    : mFile(std::move(file)), mProgram(std::move(program)) {
     const vxTrueTypeMetrics& m = mFile->getMetrics();
     mFontScalingFactor = 1000.0 / m.unitsPerEm;
     const bool fileIsBold = (m.macStyle & 1) != 0 || m.weightClass >= 600;
@@ -68,7 +66,7 @@ float vxPDFFontTrueType::getUnderlineThickness() const {
 }
 
 bool vxPDFFontTrueType::isEmbedded() const {
-    return mIsEmbeddingIntended && mProgram && !mProgram->empty() && mFile->isEmbeddingAllowed() &&
+    return mProgram && !mProgram->empty() && mFile->isEmbeddingAllowed() &&
            mFile->hasAllRequiredTablesForFontEmbedding() && !mFile->isCollection();
 }
 
@@ -132,7 +130,7 @@ void vxPDFFontTrueType::dump(short depth, std::ostream& out) const {
     (void)depth;
     vxDumpLine(out, "std::string mBaseFontName:  ", mBaseFontName);
     vxDumpLine(out, "double mFontScalingFactor:  ", mFontScalingFactor);
-    vxDumpLine(out, "bool mIsEmbeddingIntended:  ", mIsEmbeddingIntended);
+    vxDumpLine(out, "bool mIsEmbeddingIntended:  ", mProgram != nullptr);
     vxDumpLine(out, "bool mIsEmbeddingAllowed:   ", mFile->isEmbeddingAllowed());
     vxDumpLine(out, "mAddStyleFlag:              ", mAddStyleFlag);
     vxDumpLine(out, "std::string mMapToUnicode:  ", mMapToUnicode);

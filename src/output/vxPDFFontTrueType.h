@@ -1,6 +1,6 @@
 // A TrueType font of a PDF document: the widths of its Windows-1252 codes
 // from the font's own metrics, a descriptor, and the font program,
-// deflated, when embedding is intended and the font's licence allows it.
+// deflated, where the font's licence allows embedding.
 //
 // Where the file lacks the style asked for (a regular file for bold), the
 // base font name gets ",Bold", ",Italic" or ",BoldItalic", and simulated
@@ -23,10 +23,9 @@ public:
     enum AddStyle : short { kNoStyle = 0, kAddBold = 1, kAddItalic = 2, kAddBoldItalic = 3 };
 
     // `program` is the file deflated, shared by the documents that embed
-    // it; null when the font is not to be embedded.
+    // it; null when it couldn't be had.
     vxPDFFontTrueType(std::shared_ptr<const vxTrueTypeFile> file, bool isBold, bool isItalic,
-                      int boldExtra, bool isEmbeddingIntended,
-                      std::shared_ptr<const std::vector<uint8_t>> program);
+                      int boldExtra, std::shared_ptr<const std::vector<uint8_t>> program);
 
     bool hasWidths() const override { return true; }
     double getCodeWidth(uint8_t code) const override;
@@ -35,7 +34,7 @@ public:
     std::string addTo(vxPDFResources& resources) const override;
     void dump(short depth, std::ostream& out) const override;
 
-    // Embedded: intended, allowed by the licence, and the program complete.
+    // Embedded: allowed by the licence, and the program at hand and complete.
     bool isEmbedded() const;
     short getAddStyleFlag() const { return mAddStyleFlag; }
 
@@ -50,7 +49,6 @@ private:
     std::array<double, kNumOfWidths> mWidths{};
     double mFontScalingFactor = 1.0;
     short mAddStyleFlag = kNoStyle;
-    bool mIsEmbeddingIntended = false;
     std::string mMapToUnicode;
 };
 

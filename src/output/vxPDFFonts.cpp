@@ -56,6 +56,14 @@ std::shared_ptr<const std::vector<uint8_t>> deflated(const std::vector<uint8_t>&
     return out;
 }
 
+// A whole file goes into a document as the program of its one font: a
+// collection can't, nor a file whose licence (its fsType) forbids it or
+// that lacks a table of the program.
+bool isEmbeddable(const vxTrueTypeFile& file) {
+    return file.isEmbeddingAllowed() && file.hasAllRequiredTablesForFontEmbedding() &&
+           !file.isCollection();
+}
+
 }  // namespace
 
 vxPDFFonts::vxPDFFonts() = default;
@@ -72,32 +80,28 @@ void vxPDFFonts::clear() {
 }
 
 vxPDFFonts::Use vxPDFFonts::use(const vxFontOLD& font, vxPDFResources& resources) {
-    const short embed = font.getEmbedPDFFontFlag();
-    const vxPDFFontABC& chosen =
-        fontFor(font.getName(), font.isBold(), font.isItalic(), embed == 1 || embed == 2);
+    const vxPDFFontABC& chosen = fontFor(font.getName(), font.isBold(), font.isItalic());
     std::string& name = names[&chosen];
     if (name.empty()) name = chosen.addTo(resources);
     return Use{&chosen, name};
 }
 
 // The reserved names stand for Arial here as in the layout.
-const vxPDFFontABC& vxPDFFonts::fontFor(const std::wstring& name, bool isBold, bool isItalic,
-                                        bool isEmbeddingIntended) {
+const vxPDFFontABC& vxPDFFonts::fontFor(const std::wstring& name, bool isBold, bool isItalic) {
     const std::wstring family = vxFontService::platformName(name);
     const vxPDFFontKey key(family, isBold, isItalic);
-    std::unique_ptr<vxPDFFontABC>& font =
-        fonts[key.getFontKey() + (isEmbeddingIntended ? "|embedded" : "")];
-    if (!font) font = makeFont(family, isBold, isItalic, isEmbeddingIntended);
+    std::unique_ptr<vxPDFFontABC>& font = fonts[key.getFontKey()];
+    if (!font) font = makeFont(family, isBold, isItalic);
     return *font;
 }
 
 std::unique_ptr<vxPDFFontABC> vxPDFFonts::makeFont(const std::wstring& family, bool isBold,
-                                                   bool isItalic, bool isEmbeddingIntended) const {
+                                                   bool isItalic) const {
     const vxPDFFontKey key(family, isBold, isItalic);
     if (const vxPDFStandardFont* standard = vxFindStandardFont(key.getFontKey())) {
         return std::make_unique<vxPDFFontStandard>(*standard);
     }
-    if (auto trueType = makeTrueType(family, isBold, isItalic, isEmbeddingIntended)) {
+    if (auto trueType = makeTrueType(family, isBold, isItalic)) {
         return trueType;
     }
     const vxPDFFontKey helvetica(L"Helvetica", isBold, isItalic);
@@ -112,10 +116,7 @@ vxPDFFontComposite* vxPDFFonts::compositeFor(const vxFontOLD& font) {
                    std::to_string(match.boldExtra)];
     if (composite) return composite.get();
     Program& program = programOf(match);
-    if (!program.file || !program.file->isEmbeddingAllowed() ||
-        !program.file->hasAllRequiredTablesForFontEmbedding() || program.file->isCollection()) {
-        return nullptr;
-    }
+    if (!program.file || !isEmbeddable(*program.file)) return nullptr;
     if (!program.deflated) program.deflated = deflated(program.file->getBytes());
     if (!program.deflated) return nullptr;
     composite =
@@ -129,20 +130,20 @@ void vxPDFFonts::finish(vxPDFResources& resources) const {
     }
 }
 
+// The program is deflated only where the font's licence lets it be
+// embedded and the file holds all a reader needs to draw it.
 std::unique_ptr<vxPDFFontABC> vxPDFFonts::makeTrueType(const std::wstring& family, bool isBold,
-                                                       bool isItalic,
-                                                       bool isEmbeddingIntended) const {
+                                                       bool isItalic) const {
     vxFontFileMatch match;
     const short style = static_cast<short>((isBold ? 1 : 0) | (isItalic ? 2 : 0));
     if (!vxFindFontFile(family, style, match)) return nullptr;
     Program& program = programOf(match);
     if (!program.file) return nullptr;
-    if (isEmbeddingIntended && !program.deflated && program.file->isEmbeddingAllowed()) {
+    if (!program.deflated && isEmbeddable(*program.file)) {
         program.deflated = deflated(program.file->getBytes());
     }
     return std::make_unique<vxPDFFontTrueType>(program.file, isBold, isItalic, match.boldExtra,
-                                               isEmbeddingIntended,
-                                               isEmbeddingIntended ? program.deflated : nullptr);
+                                               program.deflated);
 }
 
 }  // namespace Velarix

@@ -4,7 +4,8 @@
 //    so Arial is Helvetica) gives that standard font.
 // 2. Otherwise the TrueType file the layout measured the family with,
 //    when the family (or one of equal metrics) is installed, read for its
-//    name, metrics and widths.
+//    name, metrics and widths, and embedded whole where its licence
+//    allows. The standard fonts are never embedded: every reader has them.
 // 3. Otherwise, or when that file can't be read or has no name, Helvetica
 //    of the style. The reason goes to the log; it never stops a drawing.
 //
@@ -41,8 +42,7 @@ public:
     // std::bad_alloc.
     Use use(const vxFontOLD& font, vxPDFResources& resources);
     // The font for a family and style, without adding it to a document.
-    const vxPDFFontABC& fontFor(const std::wstring& family, bool isBold, bool isItalic,
-                                bool isEmbeddingIntended);
+    const vxPDFFontABC& fontFor(const std::wstring& family, bool isBold, bool isItalic);
     // The composite font for text of the font beyond Windows-1252: the
     // file the layout measures it with, whatever family that is, embedded.
     // Null when that file can't be read or its licence forbids embedding.
@@ -56,10 +56,10 @@ public:
     static long getNumOfFilesRead();
 
 private:
-    std::unique_ptr<vxPDFFontABC> makeFont(const std::wstring& family, bool isBold, bool isItalic,
-                                           bool isEmbeddingIntended) const;
+    std::unique_ptr<vxPDFFontABC> makeFont(const std::wstring& family, bool isBold,
+                                           bool isItalic) const;
     std::unique_ptr<vxPDFFontABC> makeTrueType(const std::wstring& family, bool isBold,
-                                               bool isItalic, bool isEmbeddingIntended) const;
+                                               bool isItalic) const;
 
     std::map<std::string, std::unique_ptr<vxPDFFontABC>> fonts;
     std::map<const vxPDFFontABC*, std::string> names;

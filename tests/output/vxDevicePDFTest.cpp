@@ -163,6 +163,25 @@ TEST(DevicePDFContent, ShapesAsInTheGoldenContent) {
     expectGolden("pdf-content.txt", device->getContent());
 }
 
+// A quadratic becomes the cubic with its control points two thirds of
+// the way towards the quadratic's; after a close it starts from the
+// figure's first point, and a shadow moves all three points.
+TEST(DevicePDFContent, QuadraticsAsTheirExactCubics) {
+    const float bounds[4] = {0, 0, 30, 30};
+    const std::vector<short> verbs = {2, 3, 1, 4};
+    const std::vector<float> x = {0, 30, 15, 30}, y = {0, 0, 30, 0};
+    auto device = drawPDF(100, 50, [&](vxDevicePDF& d) {
+        d.drawPath2D(*plainStroke(), *rgba(0, 0, 0), verbs, x, y, bounds);
+        vxShadowOLD shadow;
+        shadow.setOffsets(1, 2);
+        d.fillPath2D(shadow, verbs, x, y, bounds, 1);
+    });
+    const std::string content = blocksOf(*device);
+    EXPECT_NE(content.find("0 0 m 30 0 l h 10 20 20 20 30 0 c "), std::string::npos) << content;
+    EXPECT_NE(content.find("1 2 m 31 2 l h 11 22 21 22 31 2 c "), std::string::npos) << content;
+    EXPECT_EQ(content.find(" v "), std::string::npos) << content;
+}
+
 // A zero-length line, a stroke of width 0, a none paint and a point list
 // of one point leave no trace; a tiny angle is no rotation.
 TEST(DevicePDFContent, WhatDrawsNothingWritesNothing) {

@@ -23,13 +23,15 @@ const char* const kProlog =
     "\t\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n"
     "\n";
 
-// The style line of a line drawn with the stroke and paint.
+// The style line of a line drawn with the stroke and paint, after the
+// definitions of its paint.
 std::string lineStyle(const vxStrokeOLD& stroke, const vxPaintOLD& paint) {
     auto device = openDevice();
     device->drawLine2D(stroke, paint, 1, 2, 3, 4);
     std::istringstream body(bodyOf(*device));
     std::string first, second;
-    std::getline(body, first);
+    while (std::getline(body, first) && first.rfind("<line", 0) != 0) {
+    }
     std::getline(body, second);
     EXPECT_EQ(first, "<line x1=\"1\" y1=\"2\" x2=\"3\" y2=\"4\" ");
     return second;
@@ -138,11 +140,11 @@ TEST(vxDeviceSVG, StrokePartsOnlyWhereSVGDefaultsDiffer) {
               "\tstyle=\"stroke: #000000; stroke-width: 2.5; stroke-linecap: round; "
               "stroke-linejoin: bevel; fill: none;\" />");
 
-    // The stroke paint takes the alpha but never the half opacity of a hatch.
+    // The stroke paint takes the alpha; a hatch strokes with its pattern.
     EXPECT_EQ(lineStyle(*plainStroke(), *rgba(16, 32, 48, 128)),
               "\tstyle=\"stroke: #102030; stroke-opacity: 0.501961; fill: none;\" />");
     EXPECT_EQ(lineStyle(*plainStroke(), *rgba(16, 32, 48, 255, 5)),
-              "\tstyle=\"stroke: #102030; fill: none;\" />");
+              "\tstyle=\"stroke: url(#pt1); fill: none;\" />");
 }
 
 TEST(vxDeviceSVG, NothingThatDrawsNothingLeavesATrace) {
@@ -187,6 +189,38 @@ TEST(vxDeviceSVG, TextIsWrittenAsCharacterReferencesOnly) {
     EXPECT_NE(body.find("\n&#x0041;&#x00e4;&#x20ac;&#x0020;&#x1f600;&#xfffd;&#x003c;\n"),
               std::string::npos)
         << body;
+}
+
+size_t countOf(const std::string& text, const std::string& part) {
+    size_t count = 0;
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+// A hatch's tile is defined once per colour and shared by the fills and
+// strokes that use it; text takes the plain colour. A texture number is
+// its picture, a PNG within the document.
+TEST(vxDeviceSVG, HatchesAndTexturesArePatternsDefinedOnce) {
+    auto device = openDevice();
+    const auto hatch = rgba(16, 32, 48, 255, 6);
+    const float bounds[4] = {0, 0, 10, 10};
+    for (int i = 0; i < 2; ++i) device->fillPolygon2D(*hatch, {0, 10, 10}, {0, 0, 10}, bounds, 1);
+    device->drawLine2D(*plainStroke(), *hatch, 0, 0, 10, 10);
+    device->fillPolygon2D(*rgba(255, 0, 0, 255, 6), {0, 10, 10}, {0, 0, 10}, bounds, 1);
+    device->drawString2D(L"A", vxFontOLD(L"Arial", 10, 0), *hatch, bounds, 1, 1, 0);
+    device->fillPolygon2D(*rgba(0, 0, 0, 255, 70), {0, 10, 10}, {0, 0, 10}, bounds, 1);
+    const std::string body = bodyOf(*device);
+    EXPECT_EQ(countOf(body, "<pattern "), 3u) << body;
+    EXPECT_EQ(countOf(body, "fill: url(#pt1); "), 2u) << body;
+    EXPECT_EQ(countOf(body, "stroke: url(#pt1); "), 1u) << body;
+    EXPECT_EQ(countOf(body, "fill: url(#pt2); "), 1u) << body;
+    EXPECT_NE(body.find("font-size: 10px; fill: #102030; stroke: none;"), std::string::npos);
+    EXPECT_NE(body.find("<pattern id=\"pt3\" patternUnits=\"userSpaceOnUse\"\n\tx=\"0\" y=\"0\" "),
+              std::string::npos);
+    EXPECT_NE(body.find("<image xlink:href=\"data:image/png;base64,iVBORw0KGgo"),
+              std::string::npos);
+    EXPECT_EQ(countOf(body, "fill: url(#pt3); "), 1u) << body;
 }
 
 TEST(vxDeviceSVG, ClipRectangleLimits) {

@@ -156,17 +156,13 @@ void expectTextComesBack(const std::string& name, const ReaderResult& result) {
 
 // Examples whose pictures differ between the formats, and the readers whose
 // pictures are therefore not compared. They are differences of the formats
-// themselves: SVG has no form for a hatch (its colour at half opacity stands
-// in) or a texture tiled by its own layout, the raster device blends
-// gradients gamma-corrected where SVG and PDF blend linearly, a PDF shading
-// is centred where the raster device moves it to the focus, and PDF text
-// takes no gradient.
+// themselves: the raster device blends gradients gamma-corrected where SVG
+// and PDF blend linearly, a PDF shading is centred where the raster device
+// moves it to the focus, and PDF text takes no gradient.
 const std::map<std::string, CompareWith> kKnownDifferences = {
-    // hatches and textures in SVG, gamma-corrected gradients in the PNG, the
-    // focus of the radial gradient and the gradient text in the PDF
+    // gamma-corrected gradients in the PNG, the focus of the radial gradient
+    // and the gradient text in the PDF
     {"paints", kNeither},
-    // the hatched series in SVG
-    {"sales-report", kOnlyPDF},
 };
 
 // The comparison itself: a missing square of 24 pixels is found, and a

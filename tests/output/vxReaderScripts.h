@@ -44,13 +44,10 @@ inline const ReaderScript kReaderScripts[] = {
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 20 110 3 40 20 5 90 0 130 60 190 110 1; gold; ; 2; black)\nCloseDrawing()\n",
      CompareWith::kBoth},
-    // The PDF writes a quadratic curve with the `v` operator, whose first
-    // control point is the current point: the curve runs closer to its
-    // start than the true quadratic that SVG and the PNG draw.
     {"quadratic-path",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 10 110 4 100 -60 190 110 1; gold; ; 2; black)\nCloseDrawing()\n",
-     CompareWith::kOnlySVG},
+     CompareWith::kBoth},
     {"symbols",
      "OpenDrawing(200; 60)\nBackground(white)\n"
      "AddSymbol(20; 30; diamond; 20; ; red)\nAddSymbol(60; 30; hollowuptriangle; 20; 1; blue)\n"
@@ -83,13 +80,11 @@ inline const ReaderScript kReaderScripts[] = {
      "AddOval(20; 10; 160; 100; 0.5 0.5 0.5 0.5 0.5 1 250 250 250 255 0 190 190 190 255 1)\n"
      "CloseDrawing()\n",
      CompareWith::kBoth},
-    // A hatch has no SVG form (its colour at half opacity stands in) and a
-    // texture none at all.
     {"hatch-and-texture",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddRect(10; 10; 85; 100; #3366cc; 6)\nAddRect(105; 10; 85; 100; 0 0 0; 70)\n"
      "CloseDrawing()\n",
-     CompareWith::kOnlyPDF},
+     CompareWith::kBoth},
     {"shadows",
      "OpenDrawing(200; 120)\nBackground(white)\n"
      "AddPath(2 20 100 3 60 20 3 100 100 1; #3366cc; ; 1; #1f2d3d; ; 4 4)\n"
@@ -101,6 +96,13 @@ inline const ReaderScript kReaderScripts[] = {
      "AddText(10; 10; \"Left\"; \"Liberation Sans\"; 16; plain; black; left; top)\n"
      "AddText(120; 50; \"Centre\"; \"Liberation Sans\"; 16; bold; darkblue; center; center)\n"
      "AddText(230; 110; \"Right\"; \"Liberation Sans\"; 16; italic; darkred; right; bottom)\n"
+     "CloseDrawing()\n",
+     CompareWith::kBoth},
+    // Times is a standard font of the PDF, placed by its own widths.
+    {"text-in-times",
+     "OpenDrawing(240; 120)\nBackground(white)\n"
+     "AddText(120; 30; \"Centred 1,234.56\"; \"Times\"; 18; plain; black; center; center)\n"
+     "AddText(230; 110; \"Right Wavy\"; \"Times\"; 18; bold + italic; navy; right; bottom)\n"
      "CloseDrawing()\n",
      CompareWith::kBoth},
     {"text-rotated-and-shortened",
