@@ -51,7 +51,7 @@ public:
 
 protected:
     bool setUpRects(vxLayer& layer, const vxGridRectPlane& plane) override;
-    // vxGridStripesPolar.cpp
+    // vxGridStripesShapes.cpp
     bool setUpOvals(vxLayer& layer, const vxGridPolarPlane& plane) override;
     bool setUpPolygons(vxLayer& layer, const vxGridPolarPlane& plane) override;
 
