@@ -35,7 +35,7 @@ public:
     explicit vxBarChart1D(const wchar_t* className);
 
     // The chart function's arguments after the flags.
-    void assign(vxAssign& assign);
+    void assign(vxAssign& assign) override;
     // BarChartOptions: connecting lines, reference value, split colours,
     // whole-number bar widths.
     void setOptions(vxAssign& assign) override;

@@ -39,6 +39,8 @@ public:
     ~vxBaseChart() override;
 
     virtual short getChartType() const { return parameters.getChartType(); }
+    // The chart function's own arguments, after its flags.
+    virtual void assign(vxAssign& assign) {}
     virtual void setUp() = 0;
     // A depth that follows from the axes (a share of the bar width) is
     // worked out again for the axes as they stand.
@@ -131,6 +133,14 @@ public:
     // The same from a style manager alone, for a chart without a chart
     // class; null gives an empty look.
     static SeriesLook getSeriesLook(const vxStyleManager* styles, long series);
+
+    // ---- additions (vxBaseChartAdditions.cpp) ---------------------------
+    // The overlays a chart class draws with each of its series: drop lines,
+    // error bars, curve fittings and moving averages. Set up once after the
+    // chart's values, drawn by the class in its layer order.
+    void setUpAdditions();
+    void addCurveFitting(vxLayerManager& layerMng, long series);
+    void addCurveFittingShadow(vxLayerManager& layerMng, long series);
 
     // ---- labels --------------------------------------------------------------
     short getDefaultLabelLocation() const { return defaultLabelLocation; }

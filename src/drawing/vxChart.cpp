@@ -1,9 +1,9 @@
 #include "drawing/vxChart.h"
 
 #include "axes/vxAxisManager.h"
-#include "charts/vxBarChart1D.h"
-#include "charts/vxBarChart2D.h"
+#include "charts/vxBaseChart.h"
 #include "charts/vxBaseChartParameters.h"
+#include "charts/vxChartClasses.h"
 #include "charts/vxChartLayerTypes.h"
 #include "charts/vxChartTypeTable.h"
 #include "data/vxDataManager.h"
@@ -70,21 +70,18 @@ void vxChart::setChart(vxAssign& a) {
 // axes only.
 void vxChart::createChart(vxAssign& a) {
     chartType.reset();
-    std::unique_ptr<vxBarChart1D> bars;
-    if (chartFunction == kBarChart1D) {
-        if (!create(bars, L"createChart")) return;
-    } else if (chartFunction == kBarChart2D) {
-        std::unique_ptr<vxBarChart2D> bars2D;
-        if (!create(bars2D, L"createChart")) return;
-        bars = std::move(bars2D);
-    } else {
-        return;
+    std::unique_ptr<vxBaseChart> chart;
+    try {
+        chart = vxNewChartClass(chartFunction);
+    } catch (const std::bad_alloc&) {
+        return setError(vxErrRuntime::kOutOfMemory, where(L"createChart"));
     }
-    bars->getParameters().copyFrom(parameters.get());
+    if (!chart) return;
+    chart->getParameters().copyFrom(parameters.get());
     a.addToArgumentOffset(1);
-    bars->assign(a);
+    chart->assign(a);
     a.addToArgumentOffset(-1);
-    chartType = std::move(bars);
+    chartType = std::move(chart);
 }
 
 void vxChart::assignChartOptions(vxAssign& a) {

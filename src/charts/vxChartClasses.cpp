@@ -1,0 +1,20 @@
+#include "charts/vxChartClasses.h"
+
+#include "charts/vxBarChart1D.h"
+#include "charts/vxBarChart2D.h"
+#include "script/vxFunctionIds.h"
+
+namespace Velarix {
+
+std::unique_ptr<vxBaseChart> vxNewChartClass(long functionId) {
+    switch (functionId) {
+        case kBarChart1D:
+            return std::make_unique<vxBarChart1D>();
+        case kBarChart2D:
+            return std::make_unique<vxBarChart2D>();
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace Velarix
