@@ -122,8 +122,6 @@ protected:
     std::unique_ptr<vxLabel> makeLabel(long series, long item);
     std::unique_ptr<vxLabel> placeLabel(const vxLabelStyle& style, const std::wstring& text,
                                         float rect[4], short location, short direction, float gap);
-    // The totals of item c's stack above and below the reference.
-    void getStackTotals(long item, double& positive, double& negative) const;
     size_t indexOf(long series, long item) const {
         return static_cast<size_t>(series * numOfCategories + item);
     }

@@ -64,15 +64,6 @@ void vxBarChart1D::addLabels(vxLayerManager& layerMng) {
     handOver(layerMng, std::move(layer));
 }
 
-void vxBarChart1D::getStackTotals(long c, double& positive, double& negative) const {
-    positive = negative = 0.0;
-    for (long s = 0; s < getNumOfChartSeries(); ++s) {
-        if (c >= getNumOfItems(s) || !isValidValue(s, 1, c)) continue;
-        const double v = getValue(s, 1, c);
-        (v >= 0.0 ? positive : negative) += v;
-    }
-}
-
 // The label of bar (s, c): its style's text, a format of the value or a
 // literal, placed at the bar cut to the plot. Null for no label.
 std::unique_ptr<vxLabel> vxBarChart1D::makeLabel(long s, long c) {

@@ -87,6 +87,9 @@ public:
     bool isValidValue(long series, long subValue, long item) const;
     double getStackedValue(long series, long item) const;
     double getProportionalValue(long series, long item) const;
+    // The totals of item c's values at and above 0 and below it, over the
+    // series that hold the item.
+    void getStackTotals(long item, double& positive, double& negative) const;
     // Consecutive valid items of sub-value 0 from `firstItem` on.
     long getNumOfValidValues(long series, long firstItem) const;
     // One item in device units: sub-value 0 as x and `subValue` as y,

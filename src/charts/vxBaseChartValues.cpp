@@ -37,6 +37,15 @@ double vxBaseChart::getProportionalValue(long series, long item) const {
     return dataManager ? dataManager->getProportionalValue(series, item) : 0.0;
 }
 
+void vxBaseChart::getStackTotals(long c, double& positive, double& negative) const {
+    positive = negative = 0.0;
+    for (long s = 0; s < getNumOfChartSeries(); ++s) {
+        if (c >= getNumOfItems(s) || !isValidValue(s, 1, c)) continue;
+        const double v = getValue(s, 1, c);
+        (v >= 0.0 ? positive : negative) += v;
+    }
+}
+
 long vxBaseChart::getNumOfValidValues(long series, long firstItem) const {
     long count = 0;
     for (long item = firstItem; item < getNumOfItems(series); ++item, ++count) {
