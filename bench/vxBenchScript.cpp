@@ -1,8 +1,10 @@
 #include "vxBenchScript.h"
 
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -33,15 +35,17 @@ void runScriptInProcess(benchmark::State& state, const std::string& script) {
 namespace {
 
 // The binary's exit status, or -1 when it couldn't be started or ended
-// abnormally.
-int spawnAndWait(std::vector<std::string>& args) {
+// abnormally; `peakKB` the largest resident size the process reached.
+int spawnAndWait(std::vector<std::string>& args, long& peakKB) {
     std::vector<char*> argv;
     for (std::string& a : args) argv.push_back(a.data());
     argv.push_back(nullptr);
     pid_t pid = 0;
     if (posix_spawn(&pid, argv[0], nullptr, nullptr, argv.data(), environ) != 0) return -1;
     int status = 0;
-    if (waitpid(pid, &status, 0) != pid) return -1;
+    struct rusage usage = {};
+    if (wait4(pid, &status, 0, &usage) != pid) return -1;
+    peakKB = usage.ru_maxrss;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
@@ -52,9 +56,13 @@ void runScriptAsProcess(benchmark::State& state, const std::string& script) {
     const std::string path = folder + "/process.vxs";
     std::ofstream(path, std::ios::binary) << script;
     std::vector<std::string> args = {VELARIX_BINARY, "--base", folder, path};
+    long peakKB = 0;
     for (auto _ : state) {
-        if (spawnAndWait(args) != 0) state.SkipWithError("velarix failed");
+        long peak = 0;
+        if (spawnAndWait(args, peak) != 0) state.SkipWithError("velarix failed");
+        peakKB = std::max(peakKB, peak);
     }
+    state.counters["peak_MB"] = static_cast<double>(peakKB) / 1024.0;
 }
 
 }  // namespace Velarix::bench

@@ -17,7 +17,8 @@ std::string benchFolder();
 void runScriptInProcess(benchmark::State& state, const std::string& script);
 
 // Writes `script` to a file and runs the built velarix binary on it once
-// per iteration, waiting for it to end.
+// per iteration, waiting for it to end; the counter peak_MB gives the
+// largest resident size a run reached.
 void runScriptAsProcess(benchmark::State& state, const std::string& script);
 
 }  // namespace Velarix::bench

@@ -1,6 +1,7 @@
 // Small line and area charts through the whole command, written as SVG
 // and held against their expected text: a line cut at a gap, steps, a
-// stacked area whose series changes sign, and an area closed to an axis.
+// stacked area whose series changes sign, an area closed to an axis and
+// labels beside symbols.
 #include <gtest/gtest.h>
 
 #include "support/vxGoldenSections.h"
