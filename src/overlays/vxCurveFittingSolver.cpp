@@ -10,11 +10,22 @@ namespace {
 // A diagonal entry of R this small against its column's norm marks a
 // column that the others (nearly) make up.
 constexpr double kRankTolerance = 1e-10;
+// The data are reduced this many rows at a time under the rows of R found
+// so far, so that the work stays in the cache whatever the number of
+// points (a tall-skinny QR).
+constexpr size_t kBlockRows = 256;
 
 double dot(const double* a, const double* b, size_t n) {
-    double sum = 0.0;
-    for (size_t i = 0; i < n; ++i) sum += a[i] * b[i];
-    return sum;
+    double s0 = 0.0, s1 = 0.0, s2 = 0.0, s3 = 0.0;
+    size_t i = 0;
+    for (; i + 4 <= n; i += 4) {
+        s0 += a[i] * b[i];
+        s1 += a[i + 1] * b[i + 1];
+        s2 += a[i + 2] * b[i + 2];
+        s3 += a[i + 3] * b[i + 3];
+    }
+    for (; i < n; ++i) s0 += a[i] * b[i];
+    return (s0 + s1) + (s2 + s3);
 }
 
 // Reflects `target` by the Householder vector v (with v·v = vv).
@@ -23,47 +34,87 @@ void reflect(const double* v, double vv, double* target, size_t n) {
     for (size_t i = 0; i < n; ++i) target[i] -= factor * v[i];
 }
 
-// The columns t^first ... t^(first + m - 1), one after another.
-std::vector<double> basisColumns(const std::vector<double>& x, double centre, double scale,
-                                 int first, int m) {
-    const size_t n = x.size();
-    std::vector<double> a(n * static_cast<size_t>(m));
-    for (size_t i = 0; i < n; ++i) {
+// The columns of the basis and y, m + 1 columns of `stride` rows: the top
+// m rows hold R and the head of Q'y, the rows below the next block of data.
+class Reduction {
+public:
+    Reduction(int m, double centre, double scale, bool throughZero)
+        : m(m),
+          centre(centre),
+          scale(scale),
+          first(throughZero ? 1 : 0),
+          stride(static_cast<size_t>(m) + kBlockRows),
+          columns(stride * static_cast<size_t>(m + 1), 0.0),
+          norms(static_cast<size_t>(m), 0.0) {}
+
+    void addBlock(const double* x, const double* y, size_t count);
+    // False when a column depends on those before it.
+    bool solve(std::vector<double>& out) const;
+
+private:
+    double& at(size_t row, int column) {
+        return columns[static_cast<size_t>(column) * stride + row];
+    }
+    double at(size_t row, int column) const {
+        return columns[static_cast<size_t>(column) * stride + row];
+    }
+    void reduce(size_t rows);
+
+    int m;
+    double centre, scale;
+    int first;
+    size_t stride;
+    std::vector<double> columns;
+    std::vector<double> norms;  // squared, of the basis columns over all data
+};
+
+void Reduction::addBlock(const double* x, const double* y, size_t count) {
+    const size_t top = static_cast<size_t>(m);
+    for (size_t i = 0; i < count; ++i) {
         const double t = (x[i] - centre) / scale;
         double power = first == 0 ? 1.0 : t;
         for (int j = 0; j < m; ++j) {
-            a[static_cast<size_t>(j) * n + i] = power;
+            at(top + i, j) = power;
+            norms[static_cast<size_t>(j)] += power * power;
             power *= t;
         }
+        at(top + i, m) = y[i];
     }
-    return a;
+    reduce(top + count);
 }
 
-// Householder QR of the n by m columns, applied to b at once; R's diagonal
-// goes to `diagonal`, the rest of R stays above it in the columns. False
-// for a column that depends on those before it.
-bool factorise(std::vector<double>& a, std::vector<double>& b, size_t n, int m,
-               std::vector<double>& diagonal) {
-    std::vector<double> norms(static_cast<size_t>(m));
-    for (int j = 0; j < m; ++j) {
-        const double* col = &a[static_cast<size_t>(j) * n];
-        norms[static_cast<size_t>(j)] = std::sqrt(dot(col, col, n));
-    }
+// Householder reflections of rows k and below turn column k into R's;
+// what the top rows then hold carries over to the next block.
+void Reduction::reduce(size_t rows) {
     for (int k = 0; k < m; ++k) {
-        double* v = &a[static_cast<size_t>(k) * n + static_cast<size_t>(k)];
-        const size_t len = n - static_cast<size_t>(k);
+        const size_t row = static_cast<size_t>(k);
+        double* v = &at(row, k);
+        const size_t len = rows - row;
         const double alpha = std::sqrt(dot(v, v, len));
-        if (alpha <= kRankTolerance * norms[static_cast<size_t>(k)] || alpha == 0.0) return false;
-        const double sign = v[0] >= 0.0 ? 1.0 : -1.0;
+        if (alpha == 0.0) continue;
         const double head = v[0];
+        const double sign = head >= 0.0 ? 1.0 : -1.0;
         v[0] += sign * alpha;
         // v·v = (head + sign alpha)^2 + alpha^2 - head^2.
         const double vv = 2.0 * alpha * (alpha + std::fabs(head));
-        for (int j = k + 1; j < m; ++j) {
-            reflect(v, vv, &a[static_cast<size_t>(j) * n + static_cast<size_t>(k)], len);
-        }
-        reflect(v, vv, &b[static_cast<size_t>(k)], len);
-        diagonal[static_cast<size_t>(k)] = -sign * alpha;
+        for (int j = k + 1; j <= m; ++j) reflect(v, vv, &at(row, j), len);
+        v[0] = -sign * alpha;
+        std::fill(v + 1, v + len, 0.0);
+    }
+}
+
+bool Reduction::solve(std::vector<double>& out) const {
+    for (int k = 0; k < m; ++k) {
+        const double norm = std::sqrt(norms[static_cast<size_t>(k)]);
+        const double diagonal = std::fabs(at(static_cast<size_t>(k), k));
+        if (diagonal == 0.0 || diagonal <= kRankTolerance * norm) return false;
+    }
+    out.assign(static_cast<size_t>(m), 0.0);
+    for (int k = m - 1; k >= 0; --k) {
+        double sum = at(static_cast<size_t>(k), m);
+        for (int j = k + 1; j < m; ++j)
+            sum -= at(static_cast<size_t>(k), j) * out[static_cast<size_t>(j)];
+        out[static_cast<size_t>(k)] = sum / at(static_cast<size_t>(k), k);
     }
     return true;
 }
@@ -93,19 +144,11 @@ vxCurveFittingSolver::Result vxCurveFittingSolver::solve(const std::vector<doubl
     const size_t n = std::min(x.size(), y.size());
     if (m < 1 || n < static_cast<size_t>(m)) return kNotEnoughData;
     setUpScaling(x);
-    std::vector<double> a = basisColumns(x, centre, scale, throughZero ? 1 : 0, m);
-    std::vector<double> b(y.begin(), y.begin() + static_cast<std::ptrdiff_t>(n));
-    std::vector<double> diagonal(static_cast<size_t>(m));
-    if (!factorise(a, b, n, m, diagonal)) return kRankDeficient;
-    internal.assign(static_cast<size_t>(m), 0.0);
-    for (int k = m - 1; k >= 0; --k) {
-        double sum = b[static_cast<size_t>(k)];
-        for (int j = k + 1; j < m; ++j) {
-            sum -= a[static_cast<size_t>(j) * n + static_cast<size_t>(k)] *
-                   internal[static_cast<size_t>(j)];
-        }
-        internal[static_cast<size_t>(k)] = sum / diagonal[static_cast<size_t>(k)];
+    Reduction reduction(m, centre, scale, throughZero);
+    for (size_t from = 0; from < n; from += kBlockRows) {
+        reduction.addBlock(&x[from], &y[from], std::min(kBlockRows, n - from));
     }
+    if (!reduction.solve(internal)) return kRankDeficient;
     setUpRawCoefficients();
     return kSolved;
 }

@@ -101,6 +101,10 @@ TEST(CurveFittingSolver, RefusesTooFewPointsAndDependentColumns) {
     std::vector<double> x = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 9}, y(11, 1.0);
     EXPECT_EQ(solver.solve(x, y, 10, false), vxCurveFittingSolver::kRankDeficient);
     EXPECT_TRUE(solver.getRawCoefficients().empty());
+    // A thousand points on one x, reduced a block at a time.
+    EXPECT_EQ(
+        solver.solve(std::vector<double>(1000, 7.0), std::vector<double>(1000, 1.0), 1, false),
+        vxCurveFittingSolver::kRankDeficient);
 }
 
 }  // namespace
