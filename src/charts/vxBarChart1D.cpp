@@ -65,6 +65,7 @@ void vxBarChart1D::setOptions(vxAssign& a) {
 
 void vxBarChart1D::setUp() {
     setUpReferenceValue();
+    if (!isError()) setUpAdditions();
     if (!isError()) setUpBarDimensions();
     if (isError()) return;
     if (getParameters().isStacked()) {

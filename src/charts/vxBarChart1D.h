@@ -56,6 +56,9 @@ public:
     // With split colours a series shows the look of its bars at or above
     // the reference.
     SeriesLook getSeriesLook(long series) const override;
+    // The middle of the series' bars along the interval axis, less the
+    // items' points, taken at the first bar drawn.
+    float getItemOffsetDC(long series) const override;
 
     long getNumOfCategories() const { return numOfCategories; }
     float getBarWidthDC() const { return barWidthDC; }

@@ -54,20 +54,28 @@ void vxBarChart1D::setUpLayers(vxLayerManager* layerMng) {
     setUpClipRect(0.5f);
     try {
         if (getParameters().doShowShadows()) addShadows(*layerMng);
+        for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s) {
+            addCurveFittingShadow(*layerMng, s);
+        }
         if (!isError() && showConnectingLines) addConnectingLines(*layerMng);
         if (isError()) return;
+        // A series' fitted curves and symbols lie right over its bars and
+        // under the next series; stacks and solids show them over all bars.
+        const bool overEach = !getDepthInfo().isDepth() && !getParameters().isStacked();
         if (getDepthInfo().isDepth()) {
             addDepthBars(*layerMng);
         } else {
             for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s) {
                 addFlatBars(*layerMng, s);
-                // A series' symbols lie right over its bars and under the
-                // next series; stacks show theirs over all bars.
-                if (!getParameters().isStacked() && !isError()) addSymbols(*layerMng, s);
+                if (overEach) addCurveFitting(*layerMng, s);
+                if (overEach && !isError()) addSymbols(*layerMng, s);
             }
             for (long s = getNumOfChartSeries() - 1; s >= 0 && getParameters().isStacked(); --s) {
                 if (!isError()) addSymbols(*layerMng, s);
             }
+        }
+        for (long s = getNumOfChartSeries() - 1; s >= 0 && !overEach; --s) {
+            addCurveFitting(*layerMng, s);
         }
         if (!isError()) addLabels(*layerMng);
     } catch (const std::bad_alloc&) {
@@ -89,6 +97,16 @@ vxBaseChart::SeriesLook vxBarChart1D::getSeriesLook(long s) const {
     SeriesLook look = vxBaseChart::getSeriesLook(s);
     if (splitColors) look.area = getAreaLook(2 * s, -1);
     return look;
+}
+
+float vxBarChart1D::getItemOffsetDC(long s) const {
+    const int k = getParameters().isHorizontal() ? 1 : 0;
+    for (long c = 0; c < numOfCategories; ++c) {
+        float r[4], point[2];
+        if (!isDrawable(s, c) || !getBarRect(s, c, r) || !getPointDC(s, 1, c, point)) continue;
+        return 0.5f * (r[k] + r[k + 2]) - point[k];
+    }
+    return 0.0f;
 }
 
 // Bars a few pixels wide, close together, are drawn with hard edges.

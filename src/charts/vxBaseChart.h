@@ -23,6 +23,7 @@ class vxAxisItem;
 class vxDataManager;
 class vxAxisManager;
 class vxBasicSymbol;
+class vxCurveFittingManager;
 class vxFormatSettings;
 class vxLayerManager;
 class vxPaintOLD;
@@ -60,6 +61,9 @@ public:
     vxDataManager* getDataManager() const { return dataManager; }
     vxAxisManager* getAxisManager() const { return axisManager; }
     vxStyleManager* getStyleManager() const { return styleManager; }
+    // The chart's curve fits; null when the script asks for none.
+    void setCurveFittingManager(vxCurveFittingManager* manager) { curveFittingManager = manager; }
+    vxCurveFittingManager* getCurveFittingManager() const { return curveFittingManager; }
 
     // ---- rectangles (left, top, right, bottom) ---------------------------
     void setChartAreaBounds(const float rect[4]);
@@ -140,8 +144,14 @@ public:
     // ---- additions (vxBaseChartAdditions.cpp) ---------------------------
     // The overlays a chart class draws with each of its series: drop lines,
     // error bars, curve fittings and moving averages. Set up once after the
-    // chart's values, drawn by the class in its layer order.
+    // chart's values, drawn by the class in its layer order: `series`
+    // counts from 0. A shadow is drawn only when the chart shows shadows
+    // and the series' shadow style has a paint.
     void setUpAdditions();
+    // How far along the interval axis the middle of what the class draws
+    // for an item of the series lies from the item's point (a bar that
+    // stands beside its value); the overlays of the series move with it.
+    virtual float getItemOffsetDC(long series) const { return 0.0f; }
     void addCurveFitting(vxLayerManager& layerMng, long series);
     void addCurveFittingShadow(vxLayerManager& layerMng, long series);
 
@@ -164,6 +174,7 @@ private:
     vxDataManager* dataManager = nullptr;
     vxAxisManager* axisManager = nullptr;
     vxStyleManager* styleManager = nullptr;
+    vxCurveFittingManager* curveFittingManager = nullptr;
     const vxFormatSettings* formatSettings = nullptr;
     bool chartAreaBoundsSet = false;
     float chartAreaBounds[4] = {};

@@ -15,6 +15,7 @@
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
 #include "host/vxLog.h"
+#include "overlays/vxCurveFittingManager.h"
 #include "script/vxAssign.h"
 #include "script/vxFunctionIds.h"
 #include "settings/vxUserSettings.h"
@@ -53,6 +54,8 @@ void vxChart::assign(vxAssign& a) {
             return assignChartBackground(a);
         case kGroupGrids:
             return assignGrids(a);
+        case kGroupCurveFittings:
+            return assignCurveFittings(a);
         default:
             return;
     }
@@ -110,6 +113,21 @@ void vxChart::assignStyle(vxAssign& a) {
     if (error && place.line > 0) error->setCallPlace(place.line, place.fnName, place.scriptPart);
 }
 
+void vxChart::assignCurveFittings(vxAssign& a) {
+    if (!curveFittingManager &&
+        !create(curveFittingManager, L"createCurveFittingManager", getOwnerSettings())) {
+        return;
+    }
+    curveFittingManager->assign(a);
+    if (curveFittingManager->isError()) copyError(curveFittingManager->getError());
+}
+
+void vxChart::setUpCurveFittingData(vxCurveFittingData* data) {
+    if (!data || !curveFittingManager || isError()) return;
+    curveFittingManager->addResults(*data, objectIndex);
+    if (curveFittingManager->isError()) copyError(curveFittingManager->getError());
+}
+
 void vxChart::assignAxes(vxAssign& a) {
     if (!axisManager && !create(axisManager, L"createAxisManager", getOwnerSettings())) return;
     axisManager->assign(a);
@@ -133,6 +151,7 @@ void vxChart::setUp(const float bounds[4]) {
 void vxChart::setUpChartType() {
     if (!chartType) return;
     chartType->setManagers(dataManager.get(), axisManager.get(), styleManager.get());
+    chartType->setCurveFittingManager(curveFittingManager.get());
     vxUserSettings* settings = getOwnerSettings();
     chartType->setFormatSettings(settings ? settings->getFormatSettings() : nullptr);
     chartType->setPlotBounds(plotBounds);
@@ -187,6 +206,7 @@ void vxChart::assignAddition(vxAssign& a, float originX, float originY) {
 // title alike: drawn three times, a half-transparent one darkens.
 void vxChart::setUpLayers(vxLayerManager* layerMng) {
     if (!layerMng) return;
+    objectIndex = layerMng->getCurrentObjectIndex();
     setUpAdditionLayers(layerMng);
     if (!isError()) setUpBackgroundLayers(layerMng);
     if (!isError()) setUpPlotLayers(layerMng);
@@ -247,6 +267,7 @@ void vxChart::dump(short depth, std::ostream& out) const {
     if (dataManager) dataManager->dump(static_cast<short>(depth - 1), out);
     if (backgroundManager) backgroundManager->dump(static_cast<short>(depth - 1), out);
     if (gridManager) gridManager->dump(static_cast<short>(depth - 1), out);
+    if (curveFittingManager) curveFittingManager->dump(static_cast<short>(depth - 1), out);
     if (legend) legend->dump(static_cast<short>(depth - 1), out);
     if (title) title->dump(static_cast<short>(depth - 1), out);
 }

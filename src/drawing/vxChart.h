@@ -14,6 +14,7 @@ namespace Velarix {
 class vxAxisManager;
 class vxBackgroundManager;
 class vxBaseChart;
+class vxCurveFittingManager;
 class vxGridManager;
 class vxStyleManager;
 class vxBaseChartParameters;
@@ -34,6 +35,9 @@ public:
     // Prepares the chart's series: every value of the data is read here.
     void setUp(const float bounds[4]) override;
     void setUpLayers(vxLayerManager* layerMng) override;
+    // The results of the chart's curve fits, under the chart's index in its
+    // view (as the layers have it).
+    void setUpCurveFittingData(vxCurveFittingData* data) override;
     long getNumOfAdditions() const { return static_cast<long>(additions.size()); }
     // -1: no limit.
     void setMaxNumOfAdditions(long value) { maxNumOfAdditions = value; }
@@ -55,6 +59,7 @@ public:
     vxLegend* getLegend() const { return legend.get(); }
     vxTitle* getTitle() const { return title.get(); }
     vxBackgroundManager* getBackgroundManager() const { return backgroundManager.get(); }
+    vxCurveFittingManager* getCurveFittingManager() const { return curveFittingManager.get(); }
     const float* getChartBounds() const { return chartBounds; }
     const float* getGraphBounds() const { return graphBounds; }
     const float* getPlotBounds() const { return plotBounds; }
@@ -75,6 +80,9 @@ private:
     void setUpSeries();
     void assignAxes(vxAssign& assign);
     void assignStyle(vxAssign& assign);
+    void assignCurveFittings(vxAssign& assign);
+    // The limits that extrapolated curves need (vxChartAxisLimits.cpp).
+    void setUpCurveFittingLimits();
     // The grids (vxChartGrids.cpp): the manager is made at the first call
     // of its group; the layers of the grids behind the series, or over them.
     void assignGrids(vxAssign& assign);
@@ -132,6 +140,8 @@ private:
     std::unique_ptr<vxTitle> title;
     std::unique_ptr<vxBackgroundManager> backgroundManager;
     std::unique_ptr<vxGridManager> gridManager;
+    std::unique_ptr<vxCurveFittingManager> curveFittingManager;
+    long objectIndex = -1;
 
     float viewBounds[4] = {};
     float chartBounds[4] = {};

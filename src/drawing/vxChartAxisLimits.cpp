@@ -14,6 +14,7 @@
 #include "furniture/vxGridManager.h"
 #include "furniture/vxLegend.h"
 #include "furniture/vxTitle.h"
+#include "overlays/vxCurveFittingManager.h"
 
 namespace Velarix {
 
@@ -51,6 +52,8 @@ void vxChart::setUpAxisLimits() {
     if (!createAuxScalingVectors(axisManager->getNumOfAxes())) return;
     setUpDateTimeFlags();
     setUpDefaultLimits();
+    setUpCurveFittingLimits();
+    if (isError()) return;
     const size_t n = axisMinValues.size();
     // An axis without a valid value shows 0 to 1.
     for (size_t k = 0; k < n; ++k) {
@@ -70,6 +73,15 @@ void vxChart::setUpAxisLimits() {
         std::swap(axisHasDate[0], axisHasDate[1]);
         std::swap(axisHasTime[0], axisHasTime[1]);
     }
+}
+
+// Curves that run past the data widen the axis of their values; the fits
+// are made here when the chart has any.
+void vxChart::setUpCurveFittingLimits() {
+    if (!curveFittingManager || parameters->getCoordinateSystem() != 1) return;
+    curveFittingManager->setUp(*dataManager);
+    if (curveFittingManager->isError()) return copyError(curveFittingManager->getError());
+    curveFittingManager->getYLimits(axisMinValues, axisMaxValues);
 }
 
 // Items that stand between the marks of an interval axis take their labels

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -12,6 +13,7 @@
 #include "host/vxLog.h"
 #include "output/vxOutputWIN.h"
 #include "output/vxStreamRecord.h"
+#include "overlays/vxCurveFittingData.h"
 #include "platform/vxTextCodec.h"
 
 namespace Velarix {
@@ -106,6 +108,24 @@ int reportError(const vxInterface& engine, const vxCommandOptions& options, std:
     return kExitScriptError;
 }
 
+// One line per fit, in the order the drawing made them; numbers to 12
+// significant digits.
+void printFits(const vxInterface& engine, std::ostream& out) {
+    vxCurveFittingData fits;
+    if (engine.hasCurveFittingData()) engine.getCurveFittingData(&fits);
+    const std::streamsize precision = out.precision(12);
+    for (long i = 0; i < fits.getNumOfItems(); ++i) {
+        const vxCurveFittingDataItem& fit = fits.getItem(i);
+        out << "chart=" << fit.chartIndex << " series=" << fit.seriesIndex << " type=" << fit.type
+            << " r2=" << fit.corrCoefficient;
+        for (long k = 0; k < fit.numOfCoefficients && k < 11; ++k) {
+            out << " c" << k << '=' << fit.c[k];
+        }
+        out << '\n';
+    }
+    out.precision(precision);
+}
+
 }  // namespace
 
 int vxRunCommand(const vxCommandOptions& options, std::istream& in, std::ostream& out,
@@ -129,6 +149,8 @@ int vxRunCommand(const vxCommandOptions& options, std::istream& in, std::ostream
             status = reportError(*engine, options, err);
         } else if (!options.streamsDir.empty() && !writeStreams(*engine, options.streamsDir, err)) {
             status = kExitUsage;
+        } else if (options.fits) {
+            printFits(*engine, out);
         }
         vxLog::withStream([&](std::ostream& log) { engine->dump(3, log); });
     }

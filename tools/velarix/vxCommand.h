@@ -15,6 +15,7 @@ struct vxCommandOptions {
     std::wstring flags = L"13";  // message flags: code first, detail level, prefix
     std::string streamsDir;      // where host streams are written; empty: nowhere
     bool log = false;            // Velarix.txt in the current folder
+    bool fits = false;           // the coefficients of the curve fits on standard output
     std::string script = "-";    // a file, or "-" for standard input
     bool help = false;
     bool version = false;

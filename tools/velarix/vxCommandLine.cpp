@@ -7,7 +7,7 @@ namespace Velarix {
 
 const char* vxUsageText() {
     return "usage: velarix [--base DIR] [--lang en|de] [--flags TEXT] [--streams DIR] [--log]\n"
-           "               [SCRIPT | -]\n"
+           "               [--fits] [SCRIPT | -]\n"
            "\n"
            "Runs a chart script and writes the pictures it asks for.\n"
            "\n"
@@ -18,6 +18,11 @@ const char* vxUsageText() {
            "                  level 1-5, the rest a prefix (default: 13)\n"
            "  --streams DIR   write every picture a host would receive as DIR/stream-N.EXT\n"
            "  --log           write the diagnostics log Velarix.txt in the current folder\n"
+           "  --fits          print the curve fits of the drawing, a line each:\n"
+           "                  chart=C series=S type=T r2=R c0=... c1=...\n"
+           "                  (C the chart's place in its view from 0, S the series from\n"
+           "                  1, T the fit type: 1-10 the degree, -2 pow, -3 exp, -4 log;\n"
+           "                  the coefficients in raw x, through zero from the x term)\n"
            "  --help          show this text\n"
            "  --version       show the version\n"
            "\n"
@@ -79,6 +84,10 @@ bool vxParseCommandLine(const std::vector<std::string>& args, vxCommandOptions& 
         }
         if (arg == "--log") {
             options.log = true;
+            continue;
+        }
+        if (arg == "--fits") {
+            options.fits = true;
             continue;
         }
         if (arg.size() > 2 && arg.compare(0, 2, "--") == 0) {
