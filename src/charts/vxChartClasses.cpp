@@ -2,6 +2,7 @@
 
 #include "charts/vxBarChart1D.h"
 #include "charts/vxBarChart2D.h"
+#include "charts/vxPieChart.h"
 #include "script/vxFunctionIds.h"
 
 namespace Velarix {
@@ -12,6 +13,8 @@ std::unique_ptr<vxBaseChart> vxNewChartClass(long functionId) {
             return std::make_unique<vxBarChart1D>();
         case kBarChart2D:
             return std::make_unique<vxBarChart2D>();
+        case kPieChart:
+            return std::make_unique<vxPieChart>();
         default:
             return nullptr;
     }
