@@ -46,8 +46,8 @@ TEST(PieChartBadInput, AwkwardDataDrawsOrNamesItsError) {
         {"a ring of zero width", "PieChart(;;100)", "1 2 3", 0, ""},
         {"a deep ring of zero width", "PieChart(;200;100)", "1 2 3", 0, ""},
         {"the deepest pie, exploded",
-         "PieChart(oval;200)\nPieChartExplodes(100; all)\nPieChartExplodeDepths(100; all)",
-         "1 2 3", 0, ""},
+         "PieChart(oval;200)\nPieChartExplodes(100; all)\nPieChartExplodeDepths(100; all)", "1 2 3",
+         0, ""},
         {"a sliver of an arc", "PieChart(label;;;10;1)", "1 2 3", 0, ""},
         {"labels of 10,000 wedges with aux lines", "PieChart(label)\nPieChartAuxLines()",
          manyValues(10000), 0, ""},
@@ -57,10 +57,10 @@ TEST(PieChartBadInput, AwkwardDataDrawsOrNamesItsError) {
         const std::string svg = folder + "/a.svg";
         std::filesystem::remove(svg);
         const auto start = std::chrono::steady_clock::now();
-        const RunResult r = runVelarix("OpenDrawing(400; 300)\n" + std::string(c.chart) +
-                                           "\nChartData(" + c.data +
-                                           ")\nCloseDrawing()\nSaveAsSVGFile(\"a.svg\"; replace)\n",
-                                       {"--base", folder, "--flags", "15"});
+        const RunResult r =
+            runVelarix("OpenDrawing(400; 300)\n" + std::string(c.chart) + "\nChartData(" + c.data +
+                           ")\nCloseDrawing()\nSaveAsSVGFile(\"a.svg\"; replace)\n",
+                       {"--base", folder, "--flags", "15"});
         const double seconds =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         // Under the sanitizers, a generous bound of the release build's
