@@ -42,6 +42,7 @@ public:
     void setUp() override;
     void setUpLayers(vxLayerManager* layerMng) override;
     SeriesLook getSeriesLook(long entry) const override;
+    long getNumOfLegendEntries() const override { return getNumOfItems(0); }
     // The look of the slices of item `item`.
     Look getWedgeLook(long item) const;
 

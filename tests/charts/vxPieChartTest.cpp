@@ -208,6 +208,7 @@ TEST_F(PieChart, TheLegendShowsEachSliceInItsLook) {
     EXPECT_NE(p.getWedgeLook(0).fill, p.getWedgeLook(1).fill);
     EXPECT_NE(p.getWedgeLook(1).fill, p.getWedgeLook(2).fill);
     EXPECT_EQ(p.getDefaultLegendMarkerType(), 1);
+    EXPECT_EQ(p.getNumOfLegendEntries(), 3);
 }
 
 TEST_F(PieChart, SmallSlicesGoToTheAddOnChart) {
