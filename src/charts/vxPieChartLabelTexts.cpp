@@ -36,7 +36,9 @@ void vxPieChart::makeOuterLabels() {
     for (size_t i = 0; i < values.size() && styles && !isError(); ++i) {
         const long item = indices[i];
         const vxLabelStyle* style = styles->getLabelStyle(1, item + 1);
-        if (!labels->showsLabel(long(i)) || !style || !style->getLabel()) continue;
+        // A slice of no whole degree shows no label.
+        if (!labels->showsLabel(long(i)) || angles[i] == 0.0f) continue;
+        if (!style || !style->getLabel()) continue;
         if (!style->isInLimits(values[i])) continue;
         const std::wstring text = formatLabelString(kNumber, labels->labelValue(values[i], total),
                                                     style->getText(item + 1));
@@ -49,7 +51,7 @@ void vxPieChart::makeInnerLabels() {
     innerOwned.resize(values.size());
     for (size_t i = 0; i < values.size() && labels->getInnerLabel() && !isError(); ++i) {
         const std::wstring& format = labels->getInnerLabelText(long(i));
-        if (!labels->showsLabel(long(i)) || format.empty()) continue;
+        if (!labels->showsLabel(long(i)) || format.empty() || angles[i] == 0.0f) continue;
         const std::wstring text =
             formatLabelString(kNumber, labels->labelValue(values[i], total), format);
         if (isError()) return setError(getError()->getErrorCode(), where(L"setUpInnerLabels"));

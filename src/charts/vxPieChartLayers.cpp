@@ -75,6 +75,7 @@ void vxPieChart::addSliceShadows(vxLayerManager& layerMng) {
     auto layer = std::make_unique<vxLayer>(kSliceShadowLayer, 0, getShadowClipRect());
     layer->addClipShape(nullptr);
     for (const long i : drawingIndices) {
+        if (angles[size_t(i)] == 0.0f) continue;
         std::unique_ptr<vxPath2DOLD> path = items[size_t(i)]->makeSilhouette();
         Look look;
         look.fill = shadow->getPaint();
@@ -89,7 +90,10 @@ void vxPieChart::addSlices(vxLayerManager& layerMng) {
     auto layer = std::make_unique<vxLayer>(kPieSliceLayer, 0, getExtendedPlotBounds());
     layer->addClipShape(nullptr);
     vxPieChartItem::Shapes shapes;
+    // Slices of no whole degree stand last in the order and draw nothing:
+    // their area is nil, and their borders would only darken a line.
     for (const long i : drawingIndices) {
+        if (angles[size_t(i)] == 0.0f) break;
         if (!items[size_t(i)]->addShapes(shapes, getWedgeLook(indices[size_t(i)]))) {
             throw std::bad_alloc();
         }

@@ -65,7 +65,7 @@ TEST(PieChartBadInput, AwkwardDataDrawsOrNamesItsError) {
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         // Under the sanitizers, a generous bound of the release build's
         // fraction of a second.
-        EXPECT_LT(seconds, 10.0);
+        EXPECT_LT(seconds, 5.0);
         if (c.error != 0) {
             EXPECT_EQ(r.status, 1);
             EXPECT_EQ(r.err.rfind(std::to_string(c.error) + ":", 0), 0u) << r.err;
