@@ -135,7 +135,7 @@ bool overlap(const vxLabel& a, const vxLabel& b) {
 TEST_F(PieChart, OuterLabelsNeverOverlap) {
     std::wstring twenty;
     for (int i = 1; i <= 20; ++i) twenty += std::to_wstring(i % 3 + 1) + L" ";
-    std::wstring packed = L"400 ";
+    std::wstring packed = L"200 ";
     for (int i = 1; i <= 20; ++i) packed += L"1 ";
     const std::wstring cases[] = {
         L"PieChart(label)\nChartData(" + twenty + L")\n",
