@@ -137,6 +137,9 @@ public:
         const vxBasicSymbol* symbol = nullptr;
     };
     virtual SeriesLook getSeriesLook(long series) const;
+    // How many entries a legend shows without texts of its own: one a
+    // series (a pie's, one an item).
+    virtual long getNumOfLegendEntries() const { return getNumOfChartSeries(); }
     // The same from a style manager alone, for a chart without a chart
     // class; null gives an empty look.
     static SeriesLook getSeriesLook(const vxStyleManager* styles, long series);

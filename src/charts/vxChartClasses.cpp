@@ -6,6 +6,7 @@
 #include "charts/vxBarChart2D.h"
 #include "charts/vxLineChart1D.h"
 #include "charts/vxLineChart2D.h"
+#include "charts/vxPieChart.h"
 #include "script/vxFunctionIds.h"
 
 namespace Velarix {
@@ -24,6 +25,8 @@ std::unique_ptr<vxBaseChart> vxNewChartClass(long functionId) {
             return std::make_unique<vxLineChart1D>();
         case kLineChart2D:
             return std::make_unique<vxLineChart2D>();
+        case kPieChart:
+            return std::make_unique<vxPieChart>();
         default:
             return nullptr;
     }

@@ -219,6 +219,12 @@ void vxChart::setUpLayers(vxLayerManager* layerMng) {
 // The backgrounds of the plot and the grids come first, when they exist;
 // then the axes and the series, the grids in front, the axes in front.
 void vxChart::setUpPlotLayers(vxLayerManager* layerMng) {
+    // A chart without axes is drawn by its chart class alone.
+    if (chartType && !hasAxes()) {
+        chartType->setUpLayers(layerMng);
+        if (chartType->isError()) copyError(chartType->getError());
+        return;
+    }
     if (!axisManager || !hasAxes()) return;
     const float* clip = layerMng->getCurrentClipRect();
     setUpGridLayers(layerMng, false);

@@ -19,7 +19,9 @@ constexpr short kFallbackMarkerType = vxLegendStandardItem::kArea;
 
 void vxLegend::setUp(const vxChart& chart) {
     const vxDataManager* data = chart.getDataManager();
-    setUpTexts(data ? data->getNumOfChartSeries() : 0);
+    const vxBaseChart* chartType = chart.getChartType();
+    setUpTexts(chartType ? chartType->getNumOfLegendEntries()
+                         : (data ? data->getNumOfChartSeries() : 0));
     if (!isError()) createItems(chart.getChartType(), chart.getStyleManager());
     if (!isError()) setUpBounds();
 }
