@@ -31,12 +31,7 @@ void vxAreaChart1D::setUpLayers(vxLayerManager* layerMng) {
             addAreaLayers(*layerMng, true);
         }
         if (!isError()) addAreaLayers(*layerMng, false);
-        if (isError()) return;
-        if (getParameters().isStacked() && isOneDimensional()) {
-            addStackedLabels(*layerMng);
-        } else {
-            addNonStackedLabels(*layerMng);
-        }
+        if (!isError()) addLabels(*layerMng);
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"setUpLayers"));
     }

@@ -62,12 +62,7 @@ void vxLineChart1D::setUpLayers(vxLayerManager* layerMng) {
     try {
         if (getParameters().doShowShadows()) addSeriesShadows(*layerMng);
         if (!isError()) addSeries(*layerMng);
-        if (isError()) return;
-        if (getParameters().isStacked() && isOneDimensional()) {
-            addStackedLabels(*layerMng);
-        } else {
-            addNonStackedLabels(*layerMng);
-        }
+        if (!isError()) addLabels(*layerMng);
     } catch (const std::bad_alloc&) {
         setError(vxErrRuntime::kOutOfMemory, where(L"setUpLayers"));
     }

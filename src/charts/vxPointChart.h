@@ -89,6 +89,8 @@ protected:
     // With symbols shown, a label's anchor moves off the series' symbol by
     // half its size toward the label's keypad place.
     void shiftLabelAroundSymbol(long series, short location, float point[2]) const;
+    // One layer a series, or for 1D stacks one layer of them all.
+    void addLabels(vxLayerManager& layerMng);
     void addNonStackedLabels(vxLayerManager& layerMng);
     void addStackedLabels(vxLayerManager& layerMng);
     std::unique_ptr<vxLabel> makePointLabel(long series, long item, bool stacked);

@@ -37,6 +37,11 @@ void vxPointChart::shiftLabelAroundSymbol(long s, short location, float point[2]
     point[1] += kAroundSymbol[location][1] * half;
 }
 
+void vxPointChart::addLabels(vxLayerManager& layerMng) {
+    if (getParameters().isStacked() && isOneDimensional()) return addStackedLabels(layerMng);
+    addNonStackedLabels(layerMng);
+}
+
 void vxPointChart::addNonStackedLabels(vxLayerManager& layerMng) {
     if (!getStyleManager() || !getParameters().doShowLabels()) return;
     for (long s = getNumOfChartSeries() - 1; s >= 0 && !isError(); --s) {
