@@ -51,6 +51,14 @@ bool isEmpty(const fmx::Data& data) {
     }
 }
 
+// A position past the end is the host's exception.
+const fmx::Data* itemAt(const void* self, uint32_t position, FMXcpt& x) {
+    const auto& items = static_cast<const fmx::DataVect*>(self)->items;
+    if (position < items.size()) return items[position].get();
+    x.code = FMXcpt::kUnknown;
+    return nullptr;
+}
+
 }  // namespace
 
 extern "C" {
@@ -218,22 +226,20 @@ bool FM_DataVect_IsEmpty(const void* self, FMXcpt& x) noexcept {
     return static_cast<const fmx::DataVect*>(self)->items.empty();
 }
 
-// A position past the end is the host's exception.
 const fmx::Data* FM_DataVect_At(const void* self, uint32_t position, FMXcpt& x) noexcept {
     if (enter(__func__, x) > 0) return nullptr;
-    const auto& items = static_cast<const fmx::DataVect*>(self)->items;
-    if (position < items.size()) return items[position].get();
-    x.code = FMXcpt::kUnknown;
-    return nullptr;
+    return itemAt(self, position, x);
 }
 
 const fmx::Text* FM_DataVect_AtAsText(const void* self, uint32_t position, FMXcpt& x) noexcept {
-    const fmx::Data* data = FM_DataVect_At(self, position, x);
+    if (enter(__func__, x) > 0) return nullptr;
+    const fmx::Data* data = itemAt(self, position, x);
     return data ? &data->text : nullptr;
 }
 
 const fmx::FixPt* FM_DataVect_AtAsNumber(const void* self, uint32_t position, FMXcpt& x) noexcept {
-    const fmx::Data* data = FM_DataVect_At(self, position, x);
+    if (enter(__func__, x) > 0) return nullptr;
+    const fmx::Data* data = itemAt(self, position, x);
     return data ? &data->number : nullptr;
 }
 
