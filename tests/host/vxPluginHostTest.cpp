@@ -369,5 +369,26 @@ TEST(VelarixPlugin, LoadsAndUnloadsAHundredTimes) {
     EXPECT_EQ(run.err, "");
 }
 
+// The fit of a drawing is read back by chart, series, fit type and value:
+// the count of coefficients, then c0 and c1 of y = 2x + 1.
+TEST(VelarixPlugin, CurveFitValuesOfTheLastDrawing) {
+    const char* script =
+        "OpenDrawing(400; 300)\nLineChart2D()\nChartData(0 1 2 3; 1 3 5 7)\n"
+        "CurveFitting(1; linear)\n";
+    std::vector<std::string> steps = {"call", "vxCH_DrawChart", "-t", script};
+    for (const char* value : {"1", "2", "3"}) {
+        steps.insert(steps.end(),
+                     {"call", "vxCH_GetCFValue", "-n", "0", "-n", "1", "-n", "1", "-n", value});
+    }
+    const HostRun run = host({"--lenient"}, steps);
+    ASSERT_TRUE(cleanEnd(run));
+    const auto lines = run.lines();
+    ASSERT_GE(lines.size(), 5u) << run.out;
+    EXPECT_EQ(lines[1], "call vxCH_DrawChart: 0: text: ");
+    EXPECT_EQ(lines[2], "call vxCH_GetCFValue: 0: text: 2");
+    EXPECT_EQ(lines[3], "call vxCH_GetCFValue: 0: text: 1");
+    EXPECT_EQ(lines[4], "call vxCH_GetCFValue: 0: text: 2");
+}
+
 }  // namespace
 }  // namespace Velarix::test
