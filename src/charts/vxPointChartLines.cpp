@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "charts/vxChartLayerTypes.h"
-#include "charts/vxChartShapes.h"
 #include "charts/vxPointChart.h"
 #include "drawing/vxLayer.h"
 #include "drawing/vxLayerManager.h"

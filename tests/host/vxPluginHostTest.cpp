@@ -61,6 +61,14 @@ HostRun host(const std::vector<std::string>& options, const std::vector<std::str
     return runCommand(line);
 }
 
+// Steps written as one text, split at blanks.
+std::vector<std::string> words(const std::string& text) {
+    std::vector<std::string> result;
+    std::istringstream in(text);
+    for (std::string word; in >> word;) result.push_back(word);
+    return result;
+}
+
 bool contains(const HostRun& run, const std::string& line) {
     const auto lines = run.lines();
     return std::find(lines.begin(), lines.end(), line) != lines.end();
@@ -256,53 +264,12 @@ TEST(VelarixPlugin, EmptyScriptIsAMessageOnlyForWebPublishing) {
 }
 
 TEST(VelarixPlugin, CurveFitValueAndMouseBeforeAnyDrawing) {
-    const HostRun run = host({"--lenient"}, {"call",
-                                             "vxCH_GetCFValue",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "2",
-                                             "-n",
-                                             "1",
-                                             "call",
-                                             "vxCH_GetCFValue",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "2",
-                                             "-n",
-                                             "2",
-                                             "-t",
-                                             "f2",
-                                             "call",
-                                             "vxCH_GetCFValue",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "1",
-                                             "-n",
-                                             "11",
-                                             "-n",
-                                             "1",
-                                             "call",
-                                             "vxCH_GetCFValue",
-                                             "-n",
-                                             "1",
-                                             "-t",
-                                             "x",
-                                             "call",
-                                             "vxCH_GetMouse",
-                                             "-e",
-                                             "call",
-                                             "vxCH_GetMouse",
-                                             "-t",
-                                             "x=%1;y=%2",
-                                             "call",
-                                             "vxCH_GetMouse"});
+    const HostRun run =
+        host({"--lenient"},
+             words("call vxCH_GetCFValue -n 1 -n 1 -n 2 -n 1 "
+                   "call vxCH_GetCFValue -n 1 -n 1 -n 2 -n 2 -t f2 "
+                   "call vxCH_GetCFValue -n 1 -n 1 -n 11 -n 1 call vxCH_GetCFValue -n 1 -t x "
+                   "call vxCH_GetMouse -e call vxCH_GetMouse -t x=%1;y=%2 call vxCH_GetMouse"));
     ASSERT_TRUE(cleanEnd(run));
     const auto lines = run.lines();
     EXPECT_EQ(lines[1], "call vxCH_GetCFValue: 0: text: 0");
@@ -372,13 +339,15 @@ TEST(VelarixPlugin, LoadsAndUnloadsAHundredTimes) {
 // The fit of a drawing is read back by chart, series, fit type and value:
 // the count of coefficients, then c0 and c1 of y = 2x + 1.
 TEST(VelarixPlugin, CurveFitValuesOfTheLastDrawing) {
-    const char* script =
+    std::vector<std::string> steps = {
+        "call", "vxCH_DrawChart", "-t",
         "OpenDrawing(400; 300)\nLineChart2D()\nChartData(0 1 2 3; 1 3 5 7)\n"
-        "CurveFitting(1; linear)\n";
-    std::vector<std::string> steps = {"call", "vxCH_DrawChart", "-t", script};
+        "CurveFitting(1; linear)\n"};
     for (const char* value : {"1", "2", "3"}) {
-        steps.insert(steps.end(),
-                     {"call", "vxCH_GetCFValue", "-n", "0", "-n", "1", "-n", "1", "-n", value});
+        for (std::string& word : words("call vxCH_GetCFValue -n 0 -n 1 -n 1 -n")) {
+            steps.push_back(word);
+        }
+        steps.push_back(value);
     }
     const HostRun run = host({"--lenient"}, steps);
     ASSERT_TRUE(cleanEnd(run));
